@@ -1,0 +1,37 @@
+#include <QApplication>
+#include <QDir>
+#include <QFont>
+#include <QTextStream>
+
+#include "app/二重起動.h"
+#include "app/起動処理.h"
+#include "dataenv/ファイル操作.h"
+#include "ui/Qtプラットフォーム.h"
+#include "ui/仮入力画面.h"
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setFont(QFont(u"Noto Sans CJK JP"_qs, 10));
+
+    Qtプラットフォーム 基盤;
+    出金セッション セッション(基盤);
+    セッション.データ.自身のフォルダ = QCoreApplication::applicationDirPath();
+
+    EntryWindow 窓(セッション);
+    仮入力画面 画面(窓);
+    紺碧帳起動 起動(セッション, 画面);
+    二重起動検査 検査(QDir::tempPath(), QCoreApplication::applicationDirPath(), 端末利用者名取得());
+    起動.他に起動中 = [&] { return 検査.他に起動中(); };
+    窓.閉じる時 = [&] { 起動.停止処理(); };
+    // For the start-up benchmark: say when the window is up, then close as an operator would.
+    if (qEnvironmentVariableIsSet("KONPEKI_CLOSE_WHEN_SHOWN")) {
+        窓.表示後 = [&] {
+            QTextStream(stdout) << "shown" << Qt::endl;
+            窓.close();
+        };
+    }
+
+    const QString コマンドライン = QCoreApplication::arguments().mid(1).join(u' ');
+    if (起動.プログラム開始(コマンドライン) == 起動結果::停止) return 0;
+    return app.exec();
+}

@@ -1,0 +1,38 @@
+#include <QCoreApplication>
+#include <QTextStream>
+
+#include "dataenv/スキーマ適用.h"
+
+// make-tree DIR [--pg CONNINFO] [--schema DIR] [--program FILE]...
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    QTextStream err(stderr);
+    const QStringList a = QCoreApplication::arguments();
+    ツリー作成指定 指定;
+    指定.スキーマフォルダ = QStringLiteral(KONPEKI_SCHEMA_DIR);
+    for (int i = 1; i < a.size(); ++i) {
+        const bool 値あり = i + 1 < a.size();
+        if (a[i] == u"--pg" && 値あり) {
+            指定.PostgreSQL接続情報 = a[++i];
+        } else if (a[i] == u"--schema" && 値あり) {
+            指定.スキーマフォルダ = a[++i];
+        } else if (a[i] == u"--program" && 値あり) {
+            指定.複写プログラム.append(a[++i]);
+        } else if (指定.根.isEmpty() && !a[i].startsWith(u"--")) {
+            指定.根 = a[i];
+        } else {
+            err << "使い方: make-tree DIR [--pg CONNINFO] [--schema DIR] [--program FILE]...\n";
+            return 2;
+        }
+    }
+    if (指定.根.isEmpty()) {
+        err << "使い方: make-tree DIR [--pg CONNINFO] [--schema DIR] [--program FILE]...\n";
+        return 2;
+    }
+    QString エラー;
+    if (!ツリー作成(指定, エラー)) {
+        err << エラー << "\n";
+        return 1;
+    }
+    return 0;
+}

@@ -1,0 +1,139 @@
+#include "app/起動処理.h"
+
+#include "text/プラットフォーム.h"
+
+紺碧帳起動::紺碧帳起動(出金セッション& セッション, 入力画面& 画面_) : s(セッション), 画面(画面_) {}
+
+起動結果 紺碧帳起動::プログラム開始(const QString& コマンドライン) {
+    プラットフォーム& 基盤 = s.データ.基盤;
+    s.データ.コマンドライン = コマンドライン.trimmed();
+
+    if (!データベース開始()) {
+        基盤.メッセージ(u"データベースが使用できません。"_qs);
+        終了処理();
+        return 起動結果::停止;
+    }
+    if (!ユーザ情報初期化()) {
+        基盤.メッセージ(u"ユーザ情報が使用できません。"_qs);
+        終了処理();
+        return 起動結果::停止;
+    }
+    s.白樺連携フラグ = 人事連携選択(u"白樺"_qs);
+    if (s.白樺連携フラグ && !人事連携開始()) {
+        // Deliberately no 終了処理 here: this path leaves no end row.
+        基盤.メッセージ(u"白樺連携データベースが使用できません。"_qs);
+        人事連携終了();
+        return 起動結果::停止;
+    }
+    連携条件項目登録(u"翠嶺"_qs, u"紺碧帳"_qs);
+    if (!操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 0)) {
+        基盤.メッセージ(u"操作権限がありません。"_qs);
+        終了処理();
+        return 起動結果::停止;
+    }
+
+    コマンド = 起動コマンド::解析(コマンドライン);
+    s.連携起動フラグ = false;
+    s.連携新規フラグ = false;
+    s.新規情報フラグ = true;
+    if (!コマンド.全体.isEmpty()) {
+        // Stored even when the line is malformed: the office code then stays for the run.
+        s.見出し.事業所コード = コマンド.事業所コード;
+        s.見出し.番号基準日付 = コマンド.番号基準日付;
+        s.見出し.出金No = コマンド.出金No;
+        switch (コマンド.モード()) {
+            case 起動モード::キー起動:
+                s.連携起動フラグ = true;
+                s.新規情報フラグ = false;
+                break;
+            case 起動モード::連携新規:
+                s.連携起動フラグ = true;
+                s.連携新規フラグ = true;
+                break;
+            default:
+                break;
+        }
+    }
+
+    // A linked start always goes on, so several linked runs can stand beside a hand-started one.
+    if (!s.連携起動フラグ && 他に起動中()) {
+        終了処理();
+        return 起動結果::停止;
+    }
+
+    画面.表示();
+    画面.既定フォーカス設定();
+    return 起動結果::稼動;
+}
+
+bool 紺碧帳起動::データベース開始() {
+    データ環境& d = s.データ;
+    if (!d.SYB_OPEN()) return false;
+    d.開始履歴書込();
+    return d.DB_OPEN();
+}
+
+bool 紺碧帳起動::ユーザ情報初期化() {
+    const bool 結果 = s.データ.基本項目読込();
+    s.最終行 = -1;
+    s.新規情報フラグ = true;
+    const QDate 今日 = s.データ.基盤.現在時刻().date();
+    s.見出し.出金日付年 = QString::number(今日.year()).rightJustified(4, u'0');
+    s.見出し.出金日付月 = QString::number(今日.month()).rightJustified(2, u'0');
+    s.見出し.出金日付日 = QString::number(今日.day()).rightJustified(2, u'0');
+    s.見出し.出金日付 = s.見出し.出金日付年 + s.見出し.出金日付月 + s.見出し.出金日付日;
+    出金日付確定();
+    s.軽減税率表示 = false;
+    return 結果;
+}
+
+void 紺碧帳起動::出金日付確定() {
+    // The number period, the proposal and the tax rates that hang on the date come with the
+    // header fields of the entry screen.
+}
+
+void 紺碧帳起動::連携条件項目登録(const QString& メニュー名, const QString& プログラム名) {
+    QString 文 = u"UPDATE "_qs + メニュー名 + u" SET 条件項目名A = '事業所コード'"_qs +
+                 u", 条件項目名B = '番号基準日付'"_qs + u", 条件項目名C = '出金No'"_qs;
+    for (char16_t c = u'D'; c <= u'Z'; ++c) 文 += u", 条件項目名"_qs + QChar(c) + u" = ''"_qs;
+    文 += u" WHERE プログラムID = '"_qs + プログラム名 + u"'"_qs;
+    if (!s.データ.環境DB実行(文)) {
+        s.データ.基盤.メッセージ(u"システムデータベースに問題があり登録できません"_qs);
+    }
+}
+
+bool 紺碧帳起動::人事連携選択(const QString& 業務名) {
+    const auto& 連携 = s.データ.他業務連携;
+    for (short i = 0; i < 連携.スロット数; ++i) {
+        if (連携.スロット[i].業務名 == 業務名 && 連携.スロット[i].連携有無区分 == 1) {
+            連携スロット番号 = i;
+            return true;
+        }
+    }
+    return false;
+}
+
+bool 紺碧帳起動::人事連携開始() {
+    // The HR system's own databases cannot be reached by this build yet, so a configured link
+    // takes the path of a link database that does not open.
+    return false;
+}
+
+void 紺碧帳起動::人事連携終了() {}
+
+bool 紺碧帳起動::操作権限確認(const QString&, const QString&, int) {
+    // Every operator may use the program until the rights of M担当者 are read.
+    return true;
+}
+
+void 紺碧帳起動::終了処理() {
+    // The answer row to a waiting link request is written here once program links are read.
+    s.データ.終了履歴書込();
+    s.データ.接続終了();
+}
+
+void 紺碧帳起動::停止処理() {
+    // No window procedure is ever replaced in this program, so there is nothing to restore.
+    終了処理();
+    if (s.白樺連携フラグ) 人事連携終了();
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "app/コマンドライン.h"
+#include "slip/出金セッション.h"
+
+// What the start-up asks of the entry screen.
+class 入力画面 {
+public:
+    virtual ~入力画面() = default;
+    // Shows the screen, not modal; showing runs its load step.
+    virtual void 表示() = 0;
+    // Puts the focus on the default control, 担当者コード.
+    virtual void 既定フォーカス設定() = 0;
+};
+
+enum class 起動結果 { 稼動, 停止 };
+
+// The program's spine from process start to the first keystroke, and from the last command to
+// the process end.
+class 紺碧帳起動 {
+public:
+    紺碧帳起動(出金セッション& セッション, 入力画面& 画面);
+
+    // Answers whether this program already runs by hand for this user; asked at one fixed
+    // point of the start.
+    std::function<bool()> 他に起動中 = [] { return false; };
+
+    起動結果 プログラム開始(const QString& コマンドライン);
+    // The quit of the window: window procedure restore, 終了処理, HR link close.
+    void 停止処理();
+
+    bool データベース開始();
+    bool ユーザ情報初期化();
+    void 連携条件項目登録(const QString& メニュー名, const QString& プログラム名);
+    void 終了処理();
+
+    起動コマンド コマンド;
+
+private:
+    bool 人事連携選択(const QString& 業務名);
+    bool 人事連携開始();
+    void 人事連携終了();
+    bool 操作権限確認(const QString& メニュー名, const QString& プログラム名, int 操作区分);
+    void 出金日付確定();
+
+    出金セッション& s;
+    入力画面& 画面;
+    short 連携スロット番号 = -1;
+};

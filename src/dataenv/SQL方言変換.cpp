@@ -1,0 +1,136 @@
+#include "dataenv/SQL方言変換.h"
+
+#include <QList>
+
+namespace {
+
+bool 語の文字(QChar c) { return c.isLetterOrNumber() || c == u'_'; }
+
+// True when the word at i stands alone (no letter or digit glued on either side).
+bool 単語一致(const QString& s, qsizetype i, QStringView 語) {
+    if (i + 語.size() > s.size()) return false;
+    if (QStringView(s).mid(i, 語.size()).compare(語, Qt::CaseInsensitive) != 0) return false;
+    if (i > 0 && 語の文字(s.at(i - 1))) return false;
+    const qsizetype j = i + 語.size();
+    return j >= s.size() || !語の文字(s.at(j));
+}
+
+qsizetype 空白を飛ばす(const QString& s, qsizetype i) {
+    while (i < s.size() && s.at(i).isSpace()) ++i;
+    return i;
+}
+
+// The end of a quoted literal that starts at i ('' inside stays in the literal).
+qsizetype 引用終端(const QString& s, qsizetype i) {
+    const QChar q = s.at(i);
+    for (++i; i < s.size(); ++i) {
+        if (s.at(i) != q) continue;
+        if (i + 1 < s.size() && s.at(i + 1) == q) {
+            ++i;
+            continue;
+        }
+        return i + 1;
+    }
+    return s.size();
+}
+
+struct 変換器 {
+    const QString& 元;
+    SQL方言 方言;
+    qsizetype 位置 = 0;
+
+    // Rewrites up to the closing bracket of the current level (or the end), carrying a TOP n
+    // found at this level to a LIMIT n at its end.
+    QString 一段(bool 括弧内) {
+        QString 出力;
+        QString 上限;
+        while (位置 < 元.size()) {
+            const QChar c = 元.at(位置);
+            if (c == u'\'' || c == u'"') {
+                const qsizetype e = 引用終端(元, 位置);
+                出力 += QStringView(元).mid(位置, e - 位置);
+                位置 = e;
+            } else if (c == u'(') {
+                ++位置;
+                出力 += u'(' + 一段(true);
+            } else if (c == u')' && 括弧内) {
+                ++位置;
+                return 末尾に上限(出力, 上限) + u')';
+            } else if (c == u'[' && 方言 == SQL方言::PostgreSQL) {
+                const qsizetype e = 元.indexOf(u']', 位置);
+                if (e < 0) {
+                    出力 += c;
+                    ++位置;
+                } else {
+                    出力 += QStringView(元).mid(位置 + 1, e - 位置 - 1);
+                    位置 = e + 1;
+                }
+            } else if (上限.isEmpty() && 単語一致(元, 位置, u"TOP") && TOP読取(上限)) {
+                // 位置 now stands behind the number; the blank before TOP is kept
+            } else if (方言 == SQL方言::SQLite && 単語一致(元, 位置, u"LEFT") &&
+                       元.mid(空白を飛ばす(元, 位置 + 4), 1) == u"(") {
+                位置 = 空白を飛ばす(元, 位置 + 4) + 1;
+                QString 中身 = 一段(true);
+                if (中身.endsWith(u')')) 中身.chop(1);
+                出力 += u"substr("_qs + 一番目の引数に開始位置(中身) + u')';
+            } else if (方言 == SQL方言::PostgreSQL && 単語一致(元, 位置, u"nvarchar") &&
+                       元.mid(空白を飛ばす(元, 位置 + 8), 1) == u"(") {
+                出力 += u"varchar";
+                位置 += 8;
+            } else {
+                出力 += c;
+                ++位置;
+            }
+        }
+        return 末尾に上限(出力, 上限);
+    }
+
+    bool TOP読取(QString& 上限) {
+        qsizetype i = 空白を飛ばす(元, 位置 + 3);
+        const qsizetype 数字開始 = i;
+        while (i < 元.size() && 元.at(i).isDigit()) ++i;
+        if (i == 数字開始 || (i < 元.size() && 語の文字(元.at(i)))) return false;
+        上限 = 元.mid(数字開始, i - 数字開始);
+        位置 = 空白を飛ばす(元, i);
+        return true;
+    }
+
+    static QString 末尾に上限(QString 出力, const QString& 上限) {
+        if (上限.isEmpty()) return 出力;
+        qsizetype n = 出力.size();
+        while (n > 0 && (出力.at(n - 1).isSpace() || 出力.at(n - 1) == u';')) --n;
+        const QString 残り = 出力.mid(n);
+        出力.truncate(n);
+        return 出力 + u" LIMIT "_qs + 上限 + 残り;
+    }
+
+    // LEFT(x,n) becomes substr(x,1,n): the 1 goes in front of the last top-level argument.
+    static QString 一番目の引数に開始位置(const QString& 中身) {
+        int 深さ = 0;
+        qsizetype 区切り = -1;
+        for (qsizetype i = 0; i < 中身.size(); ++i) {
+            const QChar c = 中身.at(i);
+            if (c == u'\'' || c == u'"') {
+                i = 引用終端(中身, i) - 1;
+            } else if (c == u'(') {
+                ++深さ;
+            } else if (c == u')') {
+                --深さ;
+            } else if (c == u',' && 深さ == 0) {
+                区切り = i;
+            }
+        }
+        if (区切り < 0) return 中身;
+        return 中身.left(区切り) + u",1,"_qs + 中身.mid(区切り + 1);
+    }
+};
+
+}  // namespace
+
+QString SQL方言変換(const QString& 文, SQL方言 方言) {
+    if (方言 == SQL方言::そのまま) return 文;
+    // A stray closing bracket at the top level is copied as it is, so that a broken statement
+    // still reaches the engine and fails there.
+    変換器 v{文, 方言};
+    return v.一段(false);
+}

@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+// The engine a finished statement goes to. Statements are written once, in the suite's own
+// dialect; this is the single place that adapts them.
+enum class SQL方言 { SQLite, PostgreSQL, そのまま };
+
+QString SQL方言変換(const QString& 文, SQL方言 方言);

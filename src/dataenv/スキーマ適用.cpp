@@ -1,0 +1,144 @@
+#include "dataenv/スキーマ適用.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include "dataenv/データ接続.h"
+
+namespace {
+
+QStringList 文に分ける(const QString& 全文) {
+    QStringList 文;
+    QString 今;
+    bool 引用中 = false;
+    for (qsizetype i = 0; i < 全文.size(); ++i) {
+        const QChar c = 全文.at(i);
+        if (!引用中 && c == u'-' && i + 1 < 全文.size() && 全文.at(i + 1) == u'-') {
+            while (i < 全文.size() && 全文.at(i) != u'\n') ++i;
+            今 += u'\n';
+            continue;
+        }
+        if (c == u'\'') 引用中 = !引用中;
+        if (c == u';' && !引用中) {
+            if (!今.trimmed().isEmpty()) 文.append(今.trimmed());
+            今.clear();
+        } else {
+            今 += c;
+        }
+    }
+    if (!今.trimmed().isEmpty()) 文.append(今.trimmed());
+    return 文;
+}
+
+bool 空のSQLiteを作る(const QString& パス, QString& エラー) {
+    QFile f(パス);
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        エラー = パス + u": "_qs + f.errorString();
+        return false;
+    }
+    return true;
+}
+
+bool データベースを作る(データ接続& 接続, const 接続先& 先, const QString& スキーマ,
+                        const QString& 種類, QString& エラー) {
+    if (!接続.開く(先)) {
+        エラー = 接続.最終エラー().説明;
+        return false;
+    }
+    return SQLフォルダ実行(接続, スキーマ + u"/"_qs + 種類, エラー) &&
+           SQLファイル実行(接続, スキーマ + u"/seed/"_qs + 種類 + u".sql"_qs, エラー);
+}
+
+QString 引用(const QString& s) { return u"'"_qs + QString(s).replace(u"'"_qs, u"''"_qs) + u"'"_qs; }
+
+}  // namespace
+
+bool SQLファイル実行(データ接続& 接続, const QString& ファイル, QString& エラー) {
+    QFile f(ファイル);
+    if (!f.open(QIODevice::ReadOnly)) {
+        エラー = ファイル + u": "_qs + f.errorString();
+        return false;
+    }
+    for (const QString& 文 : 文に分ける(QString::fromUtf8(f.readAll()))) {
+        if (!接続.実行(文)) {
+            エラー = ファイル + u": "_qs + 接続.最終エラー().説明 + u"\n"_qs + 文;
+            return false;
+        }
+    }
+    return true;
+}
+
+bool SQLフォルダ実行(データ接続& 接続, const QString& フォルダ, QString& エラー) {
+    const QDir d(フォルダ);
+    for (const QString& 名 : d.entryList({u"*.sql"_qs}, QDir::Files, QDir::Name)) {
+        if (!SQLファイル実行(接続, d.filePath(名), エラー)) return false;
+    }
+    return true;
+}
+
+接続先 PostgreSQL接続先(const QString& 接続情報) {
+    接続先 先;
+    先.エンジン = 接続先::種類::PostgreSQL;
+    static const QRegularExpression 項目(u"(\\w+)\\s*=\\s*(\\S*)"_qs);
+    for (auto it = 項目.globalMatch(接続情報); it.hasNext();) {
+        const auto m = it.next();
+        const QString 鍵 = m.captured(1), 値 = m.captured(2);
+        if (鍵 == u"host") 先.ホスト = 値;
+        if (鍵 == u"port") 先.ポート = 値.toInt();
+        if (鍵 == u"dbname") 先.データベース名 = 値;
+        if (鍵 == u"user") 先.ユーザー = 値;
+        if (鍵 == u"password") 先.パスワード = 値;
+    }
+    return 先;
+}
+
+bool ツリー作成(const ツリー作成指定& 指定, QString& エラー) {
+    const QString 根 = QDir(指定.根).absolutePath();
+    for (const char16_t* 名 : {u"prgbin", u"conf", u"report", u"manual", u"data", u"users"}) {
+        if (!QDir().mkpath(根 + u"/"_qs + QString::fromUtf16(名))) {
+            エラー = 根 + u": フォルダを作成できません"_qs;
+            return false;
+        }
+    }
+    for (const QString& プログラム : 指定.複写プログラム) {
+        const QString 先 = 根 + u"/prgbin/"_qs + QFileInfo(プログラム).fileName();
+        QFile::remove(先);
+        if (!QFile::copy(プログラム, 先)) {
+            エラー = プログラム + u": 複写できません"_qs;
+            return false;
+        }
+    }
+
+    const QString 環境DB = 根 + u"/conf/usrcnfg.db"_qs;
+    if (!空のSQLiteを作る(環境DB, エラー)) return false;
+    データ接続 環境(u"tree-conf"_qs);
+    接続先 環境先;
+    環境先.ファイル = 環境DB;
+    if (!データベースを作る(環境, 環境先, 指定.スキーマフォルダ, u"config"_qs, エラー)) return false;
+
+    データ接続 業務(u"tree-gnr"_qs);
+    QString 定義;
+    if (指定.PostgreSQL接続情報.isEmpty()) {
+        const QString 業務DB = 根 + u"/data/gnrdb.db"_qs;
+        if (!空のSQLiteを作る(業務DB, エラー)) return false;
+        接続先 先;
+        先.ファイル = 業務DB;
+        if (!データベースを作る(業務, 先, 指定.スキーマフォルダ, u"general"_qs, エラー)) return false;
+        定義 = u"UPDATE データベース定義 SET db = 'A', データソース名 = "_qs + 引用(業務DB);
+    } else {
+        const 接続先 先 = PostgreSQL接続先(指定.PostgreSQL接続情報);
+        if (!データベースを作る(業務, 先, 指定.スキーマフォルダ, u"general"_qs, エラー)) return false;
+        const QString サーバー = 先.ポート > 0 ? 先.ホスト + u":"_qs + QString::number(先.ポート) : 先.ホスト;
+        定義 = u"UPDATE データベース定義 SET db = 'P', サーバー名 = "_qs + 引用(サーバー) +
+               u", データベース名 = "_qs + 引用(先.データベース名) + u", ユーザーID = "_qs +
+               引用(先.ユーザー) + u", パスワード = "_qs + 引用(先.パスワード) +
+               u", データソース名 = ''"_qs;
+    }
+    if (!環境.実行(定義 + u" WHERE 情報種類 = 'GNR'"_qs)) {
+        エラー = 環境.最終エラー().説明;
+        return false;
+    }
+    return true;
+}

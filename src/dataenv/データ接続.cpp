@@ -1,0 +1,113 @@
+#include "dataenv/データ接続.h"
+
+#include <QFileInfo>
+#include <QSqlError>
+#include <QSqlQuery>
+
+データ接続::データ接続(QString 用途)
+    : 接続名(u"konpeki-"_qs + 用途 + u"-"_qs + QString::number(reinterpret_cast<quintptr>(this), 16)) {}
+
+データ接続::~データ接続() { 閉じる(); }
+
+QSqlDatabase データ接続::生接続() const { return QSqlDatabase::database(接続名, false); }
+
+bool データ接続::開いている() const {
+    return QSqlDatabase::contains(接続名) && 生接続().isOpen();
+}
+
+void データ接続::エラー記録(const QSqlError& e) {
+    エラー.番号 = e.nativeErrorCode().isEmpty() ? QString::number(static_cast<int>(e.type()))
+                                                 : e.nativeErrorCode();
+    エラー.説明 = e.text();
+}
+
+bool データ接続::開く(const 接続先& 先) {
+    閉じる();
+    エラー = {};
+    static const char* const ドライバ[] = {"QSQLITE", "QPSQL", "QODBC"};
+    QSqlDatabase db = QSqlDatabase::addDatabase(ドライバ[static_cast<int>(先.エンジン)], 接続名);
+    switch (先.エンジン) {
+        case 接続先::種類::SQLite:
+            // A missing file is an error, as it was for the file engine; SQLite would make one.
+            if (!QFileInfo(先.ファイル).isFile()) {
+                エラー = {u"3044"_qs, u"ファイルが見つかりません: "_qs + 先.ファイル};
+                return false;
+            }
+            変換先 = SQL方言::SQLite;
+            db.setDatabaseName(先.ファイル);
+            // A second user waits for a lock instead of failing.
+            db.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=30000"_qs);
+            break;
+        case 接続先::種類::PostgreSQL:
+            変換先 = SQL方言::PostgreSQL;
+            db.setHostName(先.ホスト);
+            if (先.ポート > 0) db.setPort(先.ポート);
+            db.setDatabaseName(先.データベース名);
+            db.setUserName(先.ユーザー);
+            db.setPassword(先.パスワード);
+            db.setConnectOptions(u"connect_timeout=60"_qs);
+            break;
+        case 接続先::種類::ODBC:
+            変換先 = SQL方言::そのまま;
+            db.setDatabaseName(先.ODBC接続文字列);
+            db.setUserName(先.ユーザー);
+            db.setPassword(先.パスワード);
+            break;
+    }
+    if (!db.open()) {
+        エラー記録(db.lastError());
+        return false;
+    }
+    if (変換先 == SQL方言::SQLite) {
+        // Opening is lazy in SQLite: read the catalogue once so that a file that is no
+        // database fails here, and let readers and one writer work side by side.
+        QSqlQuery q(db);
+        if (!q.exec(u"PRAGMA journal_mode=WAL"_qs) || !q.exec(u"SELECT count(*) FROM sqlite_master"_qs)) {
+            エラー記録(q.lastError());
+            q = QSqlQuery();
+            閉じる();
+            return false;
+        }
+    }
+    return true;
+}
+
+void データ接続::閉じる() {
+    if (!QSqlDatabase::contains(接続名)) return;
+    {
+        QSqlDatabase db = QSqlDatabase::database(接続名, false);
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(接続名);
+}
+
+bool データ接続::検索(記録集合& 結果, const QString& 文) {
+    結果.閉じる();
+    if (!開いている()) {
+        エラー = {u"3704"_qs, u"接続が開かれていません。"_qs};
+        return false;
+    }
+    結果.問合せ = std::make_unique<QSqlQuery>(生接続());
+    結果.問合せ->setForwardOnly(true);
+    // Numbers come as their decimal text, so money is never passed through a double.
+    結果.問合せ->setNumericalPrecisionPolicy(QSql::HighPrecision);
+    if (!結果.問合せ->exec(SQL方言変換(文, 変換先))) {
+        エラー記録(結果.問合せ->lastError());
+        return false;
+    }
+    結果.MoveNext();
+    return true;
+}
+
+bool データ接続::実行(const QString& 文) {
+    if (!開いている()) {
+        エラー = {u"3704"_qs, u"接続が開かれていません。"_qs};
+        return false;
+    }
+    QSqlQuery q(生接続());
+    if (!q.exec(SQL方言変換(文, 変換先))) {
+        エラー記録(q.lastError());
+        return false;
+    }
+    return true;
+}

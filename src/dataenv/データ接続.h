@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QSqlDatabase>
+#include <QString>
+
+#include "dataenv/SQL方言変換.h"
+#include "dataenv/記録集合.h"
+
+// How to reach one database: the engine and the values that open it.
+struct 接続先 {
+    enum class 種類 { SQLite, PostgreSQL, ODBC };
+    種類 エンジン = 種類::SQLite;
+    QString ファイル;          // SQLite
+    QString ホスト;            // PostgreSQL: host name or socket folder
+    int ポート = 0;            // PostgreSQL: 0 = the driver's default
+    QString データベース名;    // PostgreSQL
+    QString ユーザー;          // PostgreSQL, ODBC
+    QString パスワード;        // PostgreSQL, ODBC
+    QString ODBC接続文字列;    // ODBC
+};
+
+// An error as the original's error object carried it: a number and a description.
+struct 接続エラー {
+    QString 番号;
+    QString 説明;
+};
+
+// One long-lived connection. Every statement passes the dialect translation on its way in.
+class データ接続 {
+public:
+    explicit データ接続(QString 用途);
+    ~データ接続();
+    データ接続(const データ接続&) = delete;
+    データ接続& operator=(const データ接続&) = delete;
+
+    bool 開く(const 接続先& 先);
+    void 閉じる();
+    bool 開いている() const;
+
+    // True when the statement ran; whether a row stands current is the record set's EOF.
+    // The record set is the caller's in every case.
+    bool 検索(記録集合& 結果, const QString& 文);
+    bool 実行(const QString& 文);
+
+    const 接続エラー& 最終エラー() const { return エラー; }
+    SQL方言 方言() const { return 変換先; }
+    QSqlDatabase 生接続() const;
+
+private:
+    void エラー記録(const QSqlError& e);
+
+    QString 接続名;
+    SQL方言 変換先 = SQL方言::SQLite;
+    接続エラー エラー;
+};

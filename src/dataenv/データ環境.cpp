@@ -1,0 +1,301 @@
+#include "dataenv/データ環境.h"
+
+#include "dataenv/ファイル操作.h"
+#include "text/プラットフォーム.h"
+
+namespace {
+
+// Where an error interrupts a routine that reports it once at its end.
+struct 中断 {
+    接続エラー エラー;
+};
+
+qsizetype 大小無視検索(const QString& 文字列, const QString& 語) {
+    return 文字列.indexOf(語, 0, Qt::CaseInsensitive);
+}
+
+short ファイル種別(const QString& フォルダ, const QString& 基本名, QString& パス) {
+    パス.clear();
+    if (ファイル有無確認(フォルダ + 基本名 + u".db"_qs)) {
+        パス = フォルダ + 基本名 + u".db"_qs;
+        return 1;
+    }
+    if (ファイル有無確認(フォルダ + 基本名 + u".sqlite"_qs)) {
+        パス = フォルダ + 基本名 + u".sqlite"_qs;
+        return 2;
+    }
+    return 0;
+}
+
+}  // namespace
+
+データ環境::データ環境(プラットフォーム& 基盤_, QString プログラムID_)
+    : 基盤(基盤_), プログラムID(std::move(プログラムID_)) {}
+
+void データ環境::木を探す() {
+    auto& e = 環境;
+    const QString& P = 自身のフォルダ;
+    qsizetype p = 大小無視検索(P, u"prgbin"_qs);
+    if (p < 0) p = 大小無視検索(P, u"prgsrc"_qs);
+    if (p < 0) return;
+    const QString 根 = P.left(p);  // with its trailing separator
+    e.ルートフォルダ = P.left(p > 0 ? p - 1 : 0);
+    e.プログラムフォルダ = 根 + u"prgbin"_qs;
+    e.業務DB種別 = ファイル種別(根 + u"data"_qs, u"/gnrdb"_qs, e.業務DBパス);
+    e.環境DB種別 = ファイル種別(根 + u"conf"_qs, u"/usrcnfg"_qs, e.環境DBパス);
+    // The later folders hang off the programs folder, so they are right from prgsrc too.
+    const qsizetype q = 大小無視検索(e.プログラムフォルダ, u"prgbin"_qs);
+    const QString 根2 = e.プログラムフォルダ.left(q);
+    e.共通環境フォルダ = 根2 + u"conf"_qs;
+    e.共通帳票フォルダ = 根2 + u"report"_qs;
+    e.マニュアルフォルダ = 根2 + u"manual"_qs;
+    e.帳票DB種別 = ファイル種別(e.共通帳票フォルダ, u"/repdb"_qs, e.帳票DBパス);
+}
+
+bool データ環境::環境DBを開く(const QString& フォルダ) {
+    接続先 先;
+    先.ファイル = フォルダ + 環境DBファイル名(環境.環境DB種別);
+    if (!環境接続.開く(先)) throw 中断{環境接続.最終エラー()};
+    環境DB接続中 = true;
+    return true;
+}
+
+bool データ環境::SYB_OPEN() {
+    環境.端末利用者名 = 端末利用者名取得();
+    環境.端末名 = 端末名取得();
+    環境.ユーザID = 環境.端末利用者名;
+    木を探す();
+    if (環境.プログラムフォルダ.isEmpty() || 環境.環境DB種別 == 0) {
+        環境DB接続中 = false;
+        return false;
+    }
+    try {
+        環境DBを開く(環境.共通環境フォルダ);
+        データベース定義読込();
+        動作環境定義読込(false);
+        環境接続.閉じる();
+        環境DB接続中 = false;
+
+        switch (環境.インストール区分) {
+            case 0:
+                環境.環境フォルダ = 環境.共通環境フォルダ;
+                環境.帳票フォルダ = 環境.共通帳票フォルダ;
+                break;
+            case 1: {
+                const QString 利用者 = 環境.ルートフォルダ + u"/users/"_qs + 環境.ユーザID;
+                環境.環境フォルダ = 利用者 + u"/conf"_qs;
+                環境.帳票フォルダ = 利用者 + u"/report"_qs;
+                利用者別環境準備();
+                break;
+            }
+            default:
+                環境.環境フォルダ.clear();
+                環境.帳票フォルダ.clear();
+        }
+
+        環境DBを開く(環境.環境フォルダ);
+        動作環境定義読込(true);
+        作業事業所コード = 環境.運用事業所コード;
+    } catch (const 中断& 中) {
+        基盤.メッセージ(u"SYB_OPEN ERROR"_qs + 中.エラー.番号 + u" "_qs + 中.エラー.説明 + u"\n"_qs +
+                        u"sysopen error"_qs);
+    }
+    return 環境DB接続中;
+}
+
+void データ環境::データベース定義読込() {
+    記録集合 rs;
+    if (環境DB検索(rs, u"SELECT * FROM データベース定義 WHERE 情報種類 = 'GNR'"_qs)) {
+        // db and dbmw are taken as they stand: a Null there is a failed read.
+        for (const char16_t* 列 : {u"db", u"dbmw"}) {
+            if (rs.Null(QString::fromUtf16(列))) {
+                rs.閉じる();
+                throw 中断{{u"94"_qs, u"Null の使い方が不正です。"_qs}};
+            }
+        }
+        auto& e = 環境;
+        e.db = rs.文字列(u"db"_qs).trimmed();
+        e.dbmw = rs.文字列(u"dbmw"_qs).trimmed();
+        const std::pair<const char16_t*, QString*> 列[] = {
+            {u"プロバイダ名", &e.プロバイダ名}, {u"データベース名", &e.データベース名},
+            {u"ドライバ名", &e.ドライバ名},     {u"ユーザーID", &e.ユーザーID},
+            {u"パスワード", &e.パスワード},     {u"データソース名", &e.データソース名},
+            {u"サーバー名", &e.サーバー名},     {u"接続文字列", &e.接続文字列},
+        };
+        for (const auto& [名, 値] : 列) {
+            const QString 列名 = QString::fromUtf16(名);
+            if (!rs.Null(列名)) *値 = rs.文字列(列名).trimmed();
+        }
+        if (e.db == u"A") e.Access業務DBパス = e.データソース名;
+    }
+    rs.閉じる();
+}
+
+void データ環境::動作環境定義読込(bool 全項目) {
+    記録集合 rs;
+    auto& e = 環境;
+    if (環境DB検索(rs, u"SELECT * FROM 動作環境定義"_qs + u" WHERE 動作環境定義ID = '001'"_qs)) {
+        auto 文字 = [&](const char16_t* 名, const QString& 既定) {
+            const QString 列名 = QString::fromUtf16(名);
+            return rs.Null(列名) ? 既定 : rs.文字列(列名);
+        };
+        auto 整数 = [&](const char16_t* 名) { return rs.整数(QString::fromUtf16(名)); };
+        e.運用事業所コード = 文字(u"運用事業所コード", u"000"_qs).left(3);
+        e.インストール区分 = 整数(u"インストール区分");
+        e.CL更新実行区分 = 整数(u"CL更新実行区分");
+        if (全項目) {
+            e.バックアップ日付 = 文字(u"バックアップ日付", {}).left(8);
+            e.運用条件切替日付 = 文字(u"運用条件切替日付", {}).left(8);
+            e.バックアップ方法 = 整数(u"バックアップ方法");
+            e.バックアップ日指定 = 整数(u"バックアップ日指定");
+            const char16_t* 曜日[] = {u"月曜バックアップ", u"火曜バックアップ",
+                                      u"水曜バックアップ", u"木曜バックアップ",
+                                      u"金曜バックアップ", u"土曜バックアップ",
+                                      u"日曜バックアップ"};
+            for (int i = 0; i < 7; ++i) e.曜日別バックアップ[i] = 整数(曜日[i]);
+            e.バックアップ開始時刻 = 文字(u"バックアップ開始時刻", {});
+            e.バックアップフォルダ = 文字(u"バックアップフォルダ", {});
+            e.起動担当者コード = 文字(u"起動担当者コード", {});
+        }
+    }
+    rs.閉じる();
+}
+
+void データ環境::利用者別環境準備() {
+    auto& e = 環境;
+    const QString 環境ファイル = 環境DBファイル名(e.環境DB種別);
+    DIREXISTCHK(e.環境フォルダ + 環境ファイル, 基盤);
+    if (!ファイル有無確認(e.環境フォルダ + 環境ファイル)) {
+        ファイル複写(e.共通環境フォルダ + 環境ファイル, e.環境フォルダ + 環境ファイル);
+    }
+    if (e.帳票DB種別 == 1) 帳票DB準備(u"/repdb.db"_qs, u"/repfrmdb.db"_qs, false);
+    if (e.帳票DB種別 == 2) {
+        帳票DB準備(u"/repdb.sqlite"_qs, u"/repfrmdb.sqlite"_qs, true);
+        e.帳票DB種別 = 2;
+    }
+    if (!フォルダ有無確認(e.環境フォルダ) || !ファイル有無確認(e.環境フォルダ + 環境ファイル)) {
+        エラー履歴書込(u"利用者別環境準備 User ConfF="_qs + e.環境フォルダ +
+                       u" User Report ="_qs + e.帳票フォルダ);
+    }
+}
+
+void データ環境::帳票DB準備(const QString& 帳票名, const QString& 帳票書式名, bool 追加複写) {
+    auto& e = 環境;
+    DIREXISTCHK(e.帳票フォルダ + 帳票名, 基盤);
+    if (ファイル有無確認(e.帳票フォルダ + 帳票名)) return;
+    基盤.お待ち表示(true);
+    基盤.保留イベント処理();
+    ファイル複写(e.共通帳票フォルダ + 帳票名, e.帳票フォルダ + 帳票名);
+    ファイル複写(e.共通帳票フォルダ + 帳票書式名, e.帳票フォルダ + 帳票書式名);
+    if (追加複写) {
+        ファイル複写(e.共通帳票フォルダ + u"/repfrmdb.db"_qs, e.帳票フォルダ + u"/repfrmdb.db"_qs);
+    }
+    // The layouts read the data tables of the copy beside them by their file name, so no
+    // attached-table link has to be renewed here.
+    基盤.お待ち表示(false);
+}
+
+bool データ環境::DB_OPEN() {
+    const auto& e = 環境;
+    接続先 先;
+    if (e.db == u"A") {
+        先.エンジン = 接続先::種類::SQLite;
+        先.ファイル = e.データソース名;
+    } else if (e.db == u"P") {
+        先.エンジン = 接続先::種類::PostgreSQL;
+        const qsizetype 区切り = e.サーバー名.lastIndexOf(u':');
+        先.ホスト = 区切り < 0 ? e.サーバー名 : e.サーバー名.left(区切り);
+        先.ポート = 区切り < 0 ? 0 : e.サーバー名.mid(区切り + 1).toInt();
+        先.データベース名 = e.データベース名;
+        先.ユーザー = e.ユーザーID;
+        先.パスワード = e.パスワード;
+    } else if (e.db == u"S" || e.db == u"O") {
+        先.エンジン = 接続先::種類::ODBC;
+        先.ユーザー = e.ユーザーID;
+        先.パスワード = e.パスワード;
+        先.ODBC接続文字列 =
+            e.db == u"S" ? u"DRIVER={"_qs + e.プロバイダ名 + u"};SERVER="_qs + e.サーバー名 +
+                               u";DATABASE="_qs + e.データベース名 + u";"_qs
+                         : u"DSN="_qs + e.データソース名 + u";"_qs;
+    } else {
+        // Nothing is opened, yet the flag says open: the close at the end tries it anyway.
+        業務DB接続中 = true;
+        return true;
+    }
+    if (!業務接続.開く(先)) {
+        エラー履歴書込(u"DB_OPEN ERROR"_qs + 業務接続.最終エラー().番号 + u" "_qs +
+                       業務接続.最終エラー().説明);
+        return false;
+    }
+    業務DB接続中 = true;
+    return true;
+}
+
+bool データ環境::DB_CLOSEOPEN() {
+    if (環境DB接続中) {
+        環境接続.閉じる();
+        環境DB接続中 = false;
+    }
+    if (!環境DB接続中) {
+        接続先 先;
+        先.ファイル = 環境.環境フォルダ + 環境DBファイル名(環境.環境DB種別);
+        環境DB接続中 = 環境接続.開く(先);
+    }
+    return 環境DB接続中;
+}
+
+void データ環境::接続終了() {
+    if (環境DB接続中) 環境接続.閉じる();
+    if (業務DB接続中) 業務接続.閉じる();
+}
+
+bool データ環境::業務DB検索(記録集合& 結果, const QString& 文, bool 履歴) {
+    if (!業務接続.検索(結果, 文)) {
+        エラー履歴書込(業務接続.最終エラー().説明 + 文);
+        return false;
+    }
+    if (履歴) 出力履歴書込(文);
+    return !結果.EOFか();
+}
+
+bool データ環境::業務DB実行(const QString& 文, bool 履歴) {
+    if (!業務接続.実行(文)) {
+        エラー履歴書込(業務接続.最終エラー().説明 + 文);
+        return false;
+    }
+    if (履歴) 出力履歴書込(文);
+    return true;
+}
+
+bool データ環境::環境DB検索(記録集合& 結果, const QString& 文) {
+    if (!環境接続.検索(結果, 文)) {
+        エラー履歴書込(環境接続.最終エラー().説明 + 文);
+        return false;
+    }
+    return !結果.EOFか();
+}
+
+bool データ環境::環境DB実行(const QString& 文) {
+    if (!環境接続.実行(文)) {
+        エラー履歴書込(環境接続.最終エラー().説明 + 文);
+        return false;
+    }
+    return true;
+}
+
+bool データ環境::環境DB実行記録付(const QString& 文) {
+    if (!環境DB実行(文)) return false;
+    出力履歴書込(文);
+    return true;
+}
+
+bool データ環境::操作者読込() {
+    操作者.担当者コード.clear();
+    記録集合 rs;
+    if (環境DB検索(rs, u"SELECT * FROM 動作環境定義 WHERE 動作環境定義ID = '001'"_qs) &&
+        !rs.Null(u"起動担当者コード"_qs)) {
+        操作者.担当者コード = rs.文字列(u"起動担当者コード"_qs);
+    }
+    rs.閉じる();
+    return !操作者.担当者コード.trimmed().isEmpty();
+}

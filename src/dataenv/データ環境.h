@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QString>
+
+#include "dataenv/データ接続.h"
+#include "dataenv/会社情報.h"
+#include "dataenv/暗証解読部品.h"
+#include "dataenv/環境情報.h"
+#include "dataenv/記録集合.h"
+
+class プラットフォーム;
+
+// The operator of this workplace, as the run history and the rights check see him.
+struct 操作者情報 {
+    QString 担当者コード;
+};
+
+// The data side of the one session of a run: where the program stands, its two connections,
+// and the run history that traces them. A test makes a fresh one for each case.
+class データ環境 {
+public:
+    explicit データ環境(プラットフォーム& 基盤, QString プログラムID = u"紺碧帳"_qs);
+
+    プラットフォーム& 基盤;
+    const QString プログラムID;
+    QString 自身のフォルダ;  // folder of the running executable
+    QString コマンドライン;  // trimmed, as the start row records it
+
+    プログラム環境情報 環境;
+    QString 作業事業所コード;  // working copy of 運用事業所コード for screens and lists
+    操作者情報 操作者;
+
+    bool 環境DB接続中 = false;
+    bool 業務DB接続中 = false;
+    double 稼動カウンタ = 0;
+
+    bool SYB_OPEN();
+    bool DB_OPEN();
+    bool DB_CLOSEOPEN();
+    // Closes both connections at the end of the run; errors are of no interest there.
+    void 接続終了();
+
+    bool 業務DB検索(記録集合& 結果, const QString& 文, bool 履歴 = false);
+    bool 業務DB実行(const QString& 文, bool 履歴 = false);
+    bool 環境DB検索(記録集合& 結果, const QString& 文);
+    bool 環境DB実行(const QString& 文);
+    bool 環境DB実行記録付(const QString& 文);
+
+    void 開始履歴書込();
+    void 終了履歴書込();
+    void 出力履歴書込(const QString& 文);
+    void エラー履歴書込(const QString& 文言);
+
+    bool 操作者読込();
+
+    // Company settings, read once after the general database opened.
+    会社情報 会社;
+    事業所情報 事業所;
+    short 事業所件数 = 0;
+    他業務連携情報 他業務連携;
+    bool 暗証番号要否 = false;
+    const 暗証解読部品* 暗証解読 = &平文解読;
+
+    bool 基本項目読込();
+    void 事業所情報読込();
+    void 他業務連携読込();
+    void 運用事業所変更(const QString& 事業所コード);
+
+    データ接続& 環境DB() { return 環境接続; }
+    データ接続& 業務DB() { return 業務接続; }
+
+private:
+    void 木を探す();
+    void データベース定義読込();
+    void 動作環境定義読込(bool 全項目);
+    void 利用者別環境準備();
+    void 帳票DB準備(const QString& 帳票名, const QString& 帳票書式名, bool 追加複写);
+    bool 環境DBを開く(const QString& フォルダ);
+    void 履歴書込(const QString& 摘要);
+
+    平文暗証解読 平文解読;
+    データ接続 環境接続{u"conf"_qs};
+    データ接続 業務接続{u"gnr"_qs};
+};

@@ -1,0 +1,77 @@
+#include "dataenv/記録集合.h"
+
+#include "text/実行時エラー.h"
+#include "text/数値変換.h"
+
+#include <QSqlRecord>
+#include <cmath>
+#include <limits>
+
+void 記録集合::MoveNext() {
+    当行あり = 問合せ && 問合せ->next();
+}
+
+void 記録集合::閉じる() {
+    当行あり = false;
+    列番号表.clear();
+    問合せ.reset();
+}
+
+int 記録集合::列番号(const QString& 列名) const {
+    if (!問合せ) return -1;
+    auto it = 列番号表.constFind(列名);
+    if (it != 列番号表.constEnd()) return *it;
+    const int i = 問合せ->record().indexOf(列名);  // case-insensitive, as the engines fold ASCII
+    列番号表.insert(列名, i);
+    return i;
+}
+
+QVariant 記録集合::値(const QString& 列名) const {
+    const int i = 当行あり ? 列番号(列名) : -1;
+    return i < 0 ? QVariant() : 問合せ->value(i);
+}
+
+QString 記録集合::文字列(const QString& 列名) const {
+    const QVariant v = 値(列名);
+    return v.isNull() ? QString() : v.toString();
+}
+
+金額 記録集合::金額値(const QString& 列名) const {
+    const QVariant v = 値(列名);
+    if (v.isNull()) return 金額();
+    try {
+        return 金額::文字列から(v.toString());
+    } catch (const 実行時エラー&) {
+        return 金額();
+    }
+}
+
+double 記録集合::数値(const QString& 列名) const {
+    const QVariant v = 値(列名);
+    if (v.isNull()) return 0;
+    bool ok = false;
+    const double d = v.toDouble(&ok);
+    if (ok) return d;
+    try {
+        return 数値変換(v.toString());
+    } catch (const 実行時エラー&) {
+        return 0;
+    }
+}
+
+short 記録集合::整数(const QString& 列名) const {
+    const double d = 数値(列名);
+    if (!(std::abs(d) <= std::numeric_limits<short>::max())) return 0;
+    return static_cast<short>(std::nearbyint(d));
+}
+
+short 整数変換(const QString& 文字列) {
+    double d = 0;
+    try {
+        d = 数値変換(文字列);
+    } catch (const 実行時エラー&) {
+        return 0;
+    }
+    if (!(std::abs(d) <= std::numeric_limits<short>::max())) return 0;
+    return static_cast<short>(std::nearbyint(d));
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+
+// Buttons of a message box, as the original's MsgBox styles name them.
+enum class ボタン種別 { OK, OKキャンセル, 中止再試行無視, はいいいえキャンセル, はいいいえ, 再試行キャンセル };
+enum class アイコン種別 { なし, 停止, 質問, 注意, 情報 };
+enum class 応答 { OK, キャンセル, 中止, 再試行, 無視, はい, いいえ };
+
+struct メッセージ指定 {
+    QString 本文;
+    ボタン種別 ボタン = ボタン種別::OK;
+    アイコン種別 アイコン = アイコン種別::なし;
+    int 既定ボタン = 1;  // 1 = first button, as MsgBox counts them
+    QString 題名;        // empty: the default title (the program's name)
+};
+
+// Everything the logic asks of its surroundings goes through here, so that tests can replay
+// an operator and the Qt layer can draw the same decisions.
+class プラットフォーム {
+public:
+    virtual ~プラットフォーム() = default;
+
+    virtual 応答 メッセージ表示(const メッセージ指定& 指定) = 0;
+    virtual QDateTime 現在時刻() const = 0;
+    virtual void 保留イベント処理() = 0;
+    // The modeless "please wait" window, shown while files are copied or a slip is stored.
+    virtual void お待ち表示(bool 表示) = 0;
+    virtual bool 文書を開く(const QString& パス, const QString& 作業フォルダ) = 0;
+    virtual bool プログラム起動(const QString& プログラム, const QStringList& 引数,
+                                const QString& 作業フォルダ) = 0;
+
+    // A plain box with an OK button, the form most messages of the program take.
+    応答 メッセージ(const QString& 本文) { return メッセージ表示({本文}); }
+};

@@ -1,0 +1,40 @@
+#include "text/台本プラットフォーム.h"
+
+namespace {
+// With no answer queued, a box is closed by its default button, as Enter would close it.
+応答 既定の応答(const メッセージ指定& 指定) {
+    static const QList<応答> 並び[] = {
+        {応答::OK},
+        {応答::OK, 応答::キャンセル},
+        {応答::中止, 応答::再試行, 応答::無視},
+        {応答::はい, 応答::いいえ, 応答::キャンセル},
+        {応答::はい, 応答::いいえ},
+        {応答::再試行, 応答::キャンセル},
+    };
+    const auto& ボタン = 並び[static_cast<int>(指定.ボタン)];
+    const int i = 指定.既定ボタン - 1;
+    return ボタン.value(i >= 0 && i < ボタン.size() ? i : 0);
+}
+}  // namespace
+
+応答 台本プラットフォーム::メッセージ表示(const メッセージ指定& 指定) {
+    表示済み.append(指定);
+    return 回答.isEmpty() ? 既定の応答(指定) : 回答.dequeue();
+}
+
+bool 台本プラットフォーム::文書を開く(const QString& パス, const QString&) {
+    開いた文書.append(パス);
+    return true;
+}
+
+bool 台本プラットフォーム::プログラム起動(const QString& プログラム, const QStringList& 引数,
+                                           const QString& 作業フォルダ) {
+    起動済み.append({プログラム, 引数, 作業フォルダ});
+    return true;
+}
+
+QStringList 台本プラットフォーム::表示文言() const {
+    QStringList 文言;
+    for (const auto& m : 表示済み) 文言.append(m.本文);
+    return 文言;
+}

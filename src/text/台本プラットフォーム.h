@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QList>
+#include <QQueue>
+
+#include "text/プラットフォーム.h"
+
+// The platform of the tests: answers come from a queue, and everything asked is recorded.
+class 台本プラットフォーム : public プラットフォーム {
+public:
+    struct 起動記録 {
+        QString プログラム;
+        QStringList 引数;
+        QString 作業フォルダ;
+    };
+
+    QQueue<応答> 回答;               // answers for the next message boxes, in order
+    QList<メッセージ指定> 表示済み;  // every message box shown
+    QList<起動記録> 起動済み;
+    QStringList 開いた文書;
+    QDateTime 時刻 = QDateTime(QDate(2026, 4, 1), QTime(9, 0, 0));
+    int イベント処理回数 = 0;
+    QList<bool> お待ち履歴;  // each show (true) and hide (false) of the waiting window
+
+    応答 メッセージ表示(const メッセージ指定& 指定) override;
+    QDateTime 現在時刻() const override { return 時刻; }
+    void 保留イベント処理() override { ++イベント処理回数; }
+    void お待ち表示(bool 表示) override { お待ち履歴.append(表示); }
+    bool 文書を開く(const QString& パス, const QString& 作業フォルダ) override;
+    bool プログラム起動(const QString& プログラム, const QStringList& 引数,
+                        const QString& 作業フォルダ) override;
+
+    QStringList 表示文言() const;
+};

@@ -1,0 +1,96 @@
+#include "ui/Qtプラットフォーム.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QLabel>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace {
+
+struct ボタン定義 {
+    QMessageBox::StandardButton 標準;
+    応答 答え;
+    const char16_t* 文言;
+};
+
+QList<ボタン定義> ボタン一覧(ボタン種別 種別) {
+    const ボタン定義 OK{QMessageBox::Ok, 応答::OK, u"OK"};
+    const ボタン定義 取消{QMessageBox::Cancel, 応答::キャンセル, u"キャンセル"};
+    const ボタン定義 はい{QMessageBox::Yes, 応答::はい, u"はい(&Y)"};
+    const ボタン定義 いいえ{QMessageBox::No, 応答::いいえ, u"いいえ(&N)"};
+    const ボタン定義 中止{QMessageBox::Abort, 応答::中止, u"中止(&A)"};
+    const ボタン定義 再試行{QMessageBox::Retry, 応答::再試行, u"再試行(&R)"};
+    const ボタン定義 無視{QMessageBox::Ignore, 応答::無視, u"無視(&I)"};
+    switch (種別) {
+        case ボタン種別::OK: return {OK};
+        case ボタン種別::OKキャンセル: return {OK, 取消};
+        case ボタン種別::中止再試行無視: return {中止, 再試行, 無視};
+        case ボタン種別::はいいいえキャンセル: return {はい, いいえ, 取消};
+        case ボタン種別::はいいいえ: return {はい, いいえ};
+        case ボタン種別::再試行キャンセル: return {再試行, 取消};
+    }
+    return {OK};
+}
+
+QMessageBox::Icon Qtのアイコン(アイコン種別 a) {
+    switch (a) {
+        case アイコン種別::停止: return QMessageBox::Critical;
+        case アイコン種別::質問: return QMessageBox::Question;
+        case アイコン種別::注意: return QMessageBox::Warning;
+        case アイコン種別::情報: return QMessageBox::Information;
+        case アイコン種別::なし: break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+応答 Qtプラットフォーム::メッセージ表示(const メッセージ指定& 指定) {
+    QMessageBox box(Qtのアイコン(指定.アイコン), 指定.題名.isEmpty() ? 既定の題名 : 指定.題名,
+                    指定.本文, QMessageBox::NoButton, QApplication::activeWindow());
+    const auto 一覧 = ボタン一覧(指定.ボタン);
+    QList<QPushButton*> 押釦;
+    for (const auto& b : 一覧) {
+        押釦.append(box.addButton(b.標準));
+        押釦.last()->setText(QString::fromUtf16(b.文言));
+    }
+    const int 既定 = 指定.既定ボタン - 1;
+    box.setDefaultButton(押釦.value(既定 >= 0 && 既定 < 押釦.size() ? 既定 : 0));
+    box.exec();
+    const int i = 押釦.indexOf(qobject_cast<QPushButton*>(box.clickedButton()));
+    // Closing the box by its frame answers as its escape button would: the last one.
+    return 一覧.value(i >= 0 ? i : 一覧.size() - 1).答え;
+}
+
+void Qtプラットフォーム::保留イベント処理() { QApplication::processEvents(); }
+
+void Qtプラットフォーム::お待ち表示(bool 表示) {
+    if (!表示) {
+        if (お待ち画面) お待ち画面->close();
+        return;
+    }
+    if (!お待ち画面) {
+        auto* w = new QWidget(nullptr, Qt::Dialog | Qt::WindowStaysOnTopHint);
+        w->setAttribute(Qt::WA_DeleteOnClose);
+        w->setWindowTitle(既定の題名);
+        auto* l = new QVBoxLayout(w);
+        l->addWidget(new QLabel(u"処理中です。しばらくお待ちください。"_qs, w));
+        お待ち画面 = w;
+    }
+    お待ち画面->show();
+    お待ち画面->raise();
+    QApplication::processEvents();
+}
+
+bool Qtプラットフォーム::文書を開く(const QString& パス, const QString&) {
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(パス));
+}
+
+bool Qtプラットフォーム::プログラム起動(const QString& プログラム, const QStringList& 引数,
+                                         const QString& 作業フォルダ) {
+    return QProcess::startDetached(プログラム, 引数, 作業フォルダ);
+}

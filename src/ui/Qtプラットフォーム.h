@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+
+#include "text/プラットフォーム.h"
+
+// The platform of the real program: Qt message boxes, the system clock, the desktop.
+class Qtプラットフォーム : public プラットフォーム {
+public:
+    応答 メッセージ表示(const メッセージ指定& 指定) override;
+    QDateTime 現在時刻() const override { return QDateTime::currentDateTime(); }
+    void 保留イベント処理() override;
+    void お待ち表示(bool 表示) override;
+    bool 文書を開く(const QString& パス, const QString& 作業フォルダ) override;
+    bool プログラム起動(const QString& プログラム, const QStringList& 引数,
+                        const QString& 作業フォルダ) override;
+
+    QString 既定の題名 = u"紺碧帳"_qs;
+
+private:
+    QPointer<QWidget> お待ち画面;
+};

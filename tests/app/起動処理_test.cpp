@@ -1,0 +1,208 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include "app/二重起動.h"
+#include "app/起動処理.h"
+#include "common/試験用ツリー.h"
+#include "text/台本プラットフォーム.h"
+
+namespace {
+
+class 記録画面 : public 入力画面 {
+public:
+    void 表示() override { 表示回数++; }
+    void 既定フォーカス設定() override { フォーカス回数++; }
+    int 表示回数 = 0;
+    int フォーカス回数 = 0;
+};
+
+class 起動 : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
+        基盤.時刻 = QDateTime(QDate(2026, 11, 22), QTime(10, 0, 0));
+        s.データ.自身のフォルダ = 木.プログラムフォルダ();
+    }
+    QStringList 履歴() {
+        QStringList r;
+        for (const auto& 行 : 木.環境DB行(
+                 u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs)) {
+            r.append(行[0].toString() + u" "_qs + 行[1].toString());
+        }
+        return r;
+    }
+    試験用ツリー 木;
+    台本プラットフォーム 基盤;
+    出金セッション s{基盤};
+    記録画面 画面;
+    紺碧帳起動 起動処理{s, 画面};
+};
+
+TEST_F(起動, 見本の木で開始し閉じると開始行と終了行が残る) {
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
+    EXPECT_TRUE(基盤.表示済み.isEmpty());
+    EXPECT_EQ(画面.表示回数, 1);
+    EXPECT_EQ(画面.フォーカス回数, 1);
+    EXPECT_EQ(履歴(), QStringList{u"000000000001 開始 "_qs});
+    EXPECT_FALSE(s.連携起動フラグ);
+    EXPECT_FALSE(s.連携新規フラグ);
+    EXPECT_TRUE(s.新規情報フラグ);
+    EXPECT_EQ(s.見出し.出金日付, u"20261122"_qs);
+    EXPECT_EQ(s.見出し.出金日付年, u"2026"_qs);
+    EXPECT_EQ(s.見出し.出金日付月, u"11"_qs);
+    EXPECT_EQ(s.見出し.出金日付日, u"22"_qs);
+    EXPECT_EQ(s.最終行, -1);
+    起動処理.停止処理();
+    EXPECT_EQ(履歴(), (QStringList{u"000000000001 開始 "_qs, u"000000000002 終了"_qs}));
+    EXPECT_FALSE(s.データ.環境DB().開いている());
+    EXPECT_FALSE(s.データ.業務DB().開いている());
+}
+
+TEST_F(起動, 連携条件項目が翠嶺の表に書かれる) {
+    ASSERT_TRUE(木.環境DB実行(u"UPDATE 翠嶺 SET 条件項目名D = 'x', 条件項目名Z = 'z'"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
+    const auto 行 = 木.環境DB行(
+        u"SELECT 条件項目名A, 条件項目名B, 条件項目名C, 条件項目名D, 条件項目名Z FROM 翠嶺 WHERE プログラムID = '紺碧帳'"_qs);
+    ASSERT_EQ(行.size(), 1);
+    EXPECT_EQ(行[0][0].toString(), u"事業所コード"_qs);
+    EXPECT_EQ(行[0][1].toString(), u"番号基準日付"_qs);
+    EXPECT_EQ(行[0][2].toString(), u"出金No"_qs);
+    EXPECT_EQ(行[0][3].toString(), QString());
+    EXPECT_EQ(行[0][4].toString(), QString());
+    const auto 他 = 木.環境DB行(u"SELECT 条件項目名D FROM 翠嶺 WHERE プログラムID = '紺碧帳書'"_qs);
+    EXPECT_EQ(他[0][0].toString(), u"x"_qs);
+}
+
+TEST_F(起動, 翠嶺の表が書けなければ知らせて開始は続く) {
+    ASSERT_TRUE(木.環境DB実行(u"DROP TABLE 翠嶺"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
+    EXPECT_EQ(基盤.表示文言(), QStringList{u"システムデータベースに問題があり登録できません"_qs});
+    EXPECT_EQ(画面.表示回数, 1);
+}
+
+TEST_F(起動, データベースが開かなければ知らせて終了処理をして止まる) {
+    QFile::remove(木.業務DB());
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
+    EXPECT_EQ(基盤.表示文言(), QStringList{u"データベースが使用できません。"_qs});
+    EXPECT_EQ(画面.表示回数, 0);
+    const auto r = 履歴();
+    ASSERT_EQ(r.size(), 3);
+    EXPECT_TRUE(r[0].startsWith(u"000000000001 開始"_qs));
+    EXPECT_TRUE(r[1].startsWith(u"000000000002 エラー DB_OPEN ERROR"_qs));
+    EXPECT_EQ(r[2], u"000000000003 終了"_qs);
+}
+
+TEST_F(起動, 木がなければ知らせて止まり何も書かない) {
+    s.データ.自身のフォルダ = 木.根() + u"/elsewhere"_qs;
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
+    EXPECT_EQ(基盤.表示文言(), QStringList{u"データベースが使用できません。"_qs});
+    EXPECT_TRUE(履歴().isEmpty());
+}
+
+TEST_F(起動, 会社の行がなければユーザ情報の知らせで止まる) {
+    ASSERT_TRUE(木.業務DB実行(u"DELETE FROM Mユーザ"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
+    EXPECT_EQ(基盤.表示文言(), QStringList{u"ユーザ情報が使用できません。"_qs});
+    EXPECT_EQ(履歴().last(), u"000000000002 終了"_qs);
+}
+
+TEST_F(起動, 知らない方言では何も開かずユーザ情報で止まる) {
+    ASSERT_TRUE(木.環境DB実行(u"UPDATE データベース定義 SET db = 'Q'"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
+    EXPECT_EQ(基盤.表示文言(), QStringList{u"ユーザ情報が使用できません。"_qs});
+}
+
+TEST_F(起動, 白樺の連携が開けなければ知らせて止まり終了行は書かない) {
+    ASSERT_TRUE(木.業務DB実行(
+        u"UPDATE M他業務連携 SET 業務名 = '白樺', 連携有無区分 = 1, 連携アプリフォルダ = '/nowhere' WHERE コード = '003'"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
+    EXPECT_EQ(基盤.表示文言(), QStringList{u"白樺連携データベースが使用できません。"_qs});
+    EXPECT_EQ(履歴(), QStringList{u"000000000001 開始 "_qs});
+    EXPECT_TRUE(s.白樺連携フラグ);
+}
+
+TEST_F(起動, 連携の無い白樺の枠は開始を止めない) {
+    ASSERT_TRUE(木.業務DB実行(u"UPDATE M他業務連携 SET 業務名 = '白樺', 連携有無区分 = 0 WHERE コード = '003'"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
+    EXPECT_FALSE(s.白樺連携フラグ);
+}
+
+TEST_F(起動, 手で起こした二つ目は黙って止まり開始行と終了行を残す) {
+    起動処理.他に起動中 = [] { return true; };
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
+    EXPECT_TRUE(基盤.表示済み.isEmpty());
+    EXPECT_EQ(画面.表示回数, 0);
+    EXPECT_EQ(履歴(), (QStringList{u"000000000001 開始 "_qs, u"000000000002 終了"_qs}));
+}
+
+TEST_F(起動, キーのある起動は他が動いていても進む) {
+    起動処理.他に起動中 = [] { return true; };
+    ASSERT_EQ(起動処理.プログラム開始(u"0002024040100000001"_qs), 起動結果::稼動);
+    EXPECT_TRUE(s.連携起動フラグ);
+    EXPECT_FALSE(s.連携新規フラグ);
+    EXPECT_FALSE(s.新規情報フラグ);
+    EXPECT_EQ(s.見出し.事業所コード, u"000"_qs);
+    EXPECT_EQ(s.見出し.番号基準日付, u"20240401"_qs);
+    EXPECT_EQ(s.見出し.出金No, u"00000001"_qs);
+    EXPECT_EQ(履歴(), QStringList{u"000000000001 開始 0002024040100000001"_qs});
+}
+
+TEST_F(起動, 連携新規は二つの旗を立て新規のまま) {
+    ASSERT_EQ(起動処理.プログラム開始(u"0010000000000000000"_qs), 起動結果::稼動);
+    EXPECT_TRUE(s.連携起動フラグ);
+    EXPECT_TRUE(s.連携新規フラグ);
+    EXPECT_TRUE(s.新規情報フラグ);
+}
+
+TEST_F(起動, 不正な行でも事業所は会期中の事業所として残り旗は通常) {
+    ASSERT_EQ(起動処理.プログラム開始(u"00120240401"_qs), 起動結果::稼動);
+    EXPECT_FALSE(s.連携起動フラグ);
+    EXPECT_TRUE(s.新規情報フラグ);
+    EXPECT_EQ(s.見出し.事業所コード, u"001"_qs);
+}
+
+TEST_F(起動, 空白だけの行は通常で何も写さない) {
+    ASSERT_EQ(起動処理.プログラム開始(u"     "_qs), 起動結果::稼動);
+    EXPECT_FALSE(s.連携起動フラグ);
+    EXPECT_FALSE(s.連携新規フラグ);
+    EXPECT_EQ(s.見出し.事業所コード, QString());
+}
+
+TEST(二重起動検査, 同じ利用者と同じフォルダの二つ目だけが起動中と知る) {
+    QTemporaryDir t;
+    二重起動検査 一つ目(t.path(), u"/tree/prgbin"_qs, u"user"_qs);
+    EXPECT_FALSE(一つ目.他に起動中());
+    EXPECT_FALSE(一つ目.他に起動中());  // the holder itself is not another
+    二重起動検査 二つ目(t.path(), u"/tree/prgbin"_qs, u"user"_qs);
+    EXPECT_TRUE(二つ目.他に起動中());
+    二重起動検査 別の木(t.path(), u"/other/prgbin"_qs, u"user"_qs);
+    EXPECT_FALSE(別の木.他に起動中());
+}
+
+// The real program on a real tree: it starts, shows its window, and closes by the frame.
+TEST(実行ファイル, 見本の木で窓を出し閉じると開始と終了を残す) {
+    試験用ツリー 木;
+    ASSERT_TRUE(木.作成済み);
+    const QString 元 = QStringLiteral(KONPEKI_BINARY_DIR) + u"/src/app/紺碧帳"_qs;
+    ASSERT_TRUE(QFile::copy(元, 木.プログラムフォルダ() + u"/紺碧帳"_qs));
+    QProcess p;
+    auto env = QProcessEnvironment::systemEnvironment();
+    env.insert(u"QT_QPA_PLATFORM"_qs, u"offscreen"_qs);
+    env.insert(u"KONPEKI_CLOSE_WHEN_SHOWN"_qs, u"1"_qs);
+    p.setProcessEnvironment(env);
+    p.start(木.プログラムフォルダ() + u"/紺碧帳"_qs, {});
+    ASSERT_TRUE(p.waitForFinished(30000));
+    EXPECT_EQ(p.exitCode(), 0);
+    EXPECT_TRUE(p.readAllStandardOutput().contains("shown"));
+    QStringList r;
+    for (const auto& 行 : 木.環境DB行(u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs)) {
+        r.append(行[0].toString() + u" "_qs + 行[1].toString());
+    }
+    EXPECT_EQ(r, (QStringList{u"000000000001 開始 "_qs, u"000000000002 終了"_qs}));
+}
+
+}  // namespace

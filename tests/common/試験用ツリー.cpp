@@ -1,0 +1,82 @@
+#include "試験用ツリー.h"
+
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QUuid>
+
+#include "dataenv/スキーマ適用.h"
+
+namespace {
+
+接続先 管理接続先() {
+    接続先 先 = PostgreSQL接続先(qEnvironmentVariable("KONPEKI_TEST_PG"));
+    if (先.データベース名.isEmpty()) 先.データベース名 = u"postgres"_qs;
+    return 先;
+}
+
+}  // namespace
+
+bool 試験用PostgreSQL::利用可能() { return !qEnvironmentVariable("KONPEKI_TEST_PG").isEmpty(); }
+
+試験用PostgreSQL::試験用PostgreSQL() {
+    名前 = u"t_"_qs + QUuid::createUuid().toString(QUuid::Id128).left(20);
+    データ接続 管理(u"pg-admin"_qs);
+    if (管理.開く(管理接続先())) 管理.実行(u"CREATE DATABASE "_qs + 名前);
+    情報 = qEnvironmentVariable("KONPEKI_TEST_PG") + u" dbname="_qs + 名前;
+}
+
+試験用PostgreSQL::~試験用PostgreSQL() {
+    データ接続 管理(u"pg-admin"_qs);
+    if (管理.開く(管理接続先())) {
+        管理.実行(u"DROP DATABASE IF EXISTS "_qs + 名前 + u" WITH (FORCE)"_qs);
+    }
+}
+
+試験用ツリー::試験用ツリー(const QString& PostgreSQL接続情報) : PG情報(PostgreSQL接続情報) {
+    ツリー作成指定 指定;
+    指定.根 = 一時.path();
+    指定.スキーマフォルダ = QStringLiteral(KONPEKI_SCHEMA_DIR);
+    指定.PostgreSQL接続情報 = PostgreSQL接続情報;
+    作成済み = ツリー作成(指定, エラー);
+}
+
+データ接続& 試験用ツリー::環境() {
+    if (!環境接続) {
+        環境接続 = std::make_unique<データ接続>(u"test-conf"_qs);
+        接続先 先;
+        先.ファイル = 環境DB();
+        環境接続->開く(先);
+    }
+    return *環境接続;
+}
+
+データ接続& 試験用ツリー::業務() {
+    if (!業務接続) {
+        業務接続 = std::make_unique<データ接続>(u"test-gnr"_qs);
+        接続先 先;
+        if (PG情報.isEmpty()) {
+            先.ファイル = 業務DB();
+        } else {
+            先 = PostgreSQL接続先(PG情報);
+        }
+        業務接続->開く(先);
+    }
+    return *業務接続;
+}
+
+bool 試験用ツリー::環境DB実行(const QString& 文) { return 環境().実行(文); }
+bool 試験用ツリー::業務DB実行(const QString& 文) { return 業務().実行(文); }
+QList<QVariantList> 試験用ツリー::環境DB行(const QString& 文) { return 全行(環境(), 文); }
+QList<QVariantList> 試験用ツリー::業務DB行(const QString& 文) { return 全行(業務(), 文); }
+
+QList<QVariantList> 全行(データ接続& 接続, const QString& 文) {
+    QList<QVariantList> 行;
+    QSqlQuery q(接続.生接続());
+    if (!q.exec(SQL方言変換(文, 接続.方言()))) return 行;
+    while (q.next()) {
+        QVariantList 値;
+        for (int i = 0; i < q.record().count(); ++i) 値.append(q.value(i));
+        行.append(値);
+    }
+    return 行;
+}

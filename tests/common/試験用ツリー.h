@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QVariant>
+#include <memory>
+
+#include "dataenv/データ接続.h"
+
+// A throwaway database on the PostgreSQL server that the test script started
+// (KONPEKI_TEST_PG holds its libpq connection string). Dropped at the end of the case.
+class 試験用PostgreSQL {
+public:
+    static bool 利用可能();
+    試験用PostgreSQL();
+    ~試験用PostgreSQL();
+    QString 接続情報() const { return 情報; }
+    QString データベース名() const { return 名前; }
+
+private:
+    QString 情報;
+    QString 名前;
+};
+
+// A complete folder tree of the sample company in a temporary folder, with its general
+// database in SQLite or, when a connection string is given, in PostgreSQL.
+class 試験用ツリー {
+public:
+    explicit 試験用ツリー(const QString& PostgreSQL接続情報 = {});
+    QString 根() const { return 一時.path(); }
+    QString プログラムフォルダ() const { return 根() + u"/prgbin"_qs; }
+    QString 環境DB() const { return 根() + u"/conf/usrcnfg.db"_qs; }
+    QString 業務DB() const { return 根() + u"/data/gnrdb.db"_qs; }
+    bool 作成済み = false;
+    QString エラー;
+
+    // Runs one statement on the configuration or general database behind the program's back.
+    bool 環境DB実行(const QString& 文);
+    bool 業務DB実行(const QString& 文);
+    // All rows of a query, each row as its column values in order.
+    QList<QVariantList> 環境DB行(const QString& 文);
+    QList<QVariantList> 業務DB行(const QString& 文);
+
+private:
+    データ接続& 環境();
+    データ接続& 業務();
+
+    QTemporaryDir 一時;
+    QString PG情報;
+    std::unique_ptr<データ接続> 環境接続, 業務接続;
+};
+
+QList<QVariantList> 全行(データ接続& 接続, const QString& 文);

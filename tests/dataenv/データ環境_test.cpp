@@ -1,0 +1,166 @@
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+#include "common/試験用ツリー.h"
+#include "dataenv/データ環境.h"
+#include "text/台本プラットフォーム.h"
+#include "text/項目編集.h"
+
+namespace {
+
+// The same cases run with the general database in SQLite and in PostgreSQL.
+class データ層 : public ::testing::TestWithParam<bool> {
+protected:
+    void SetUp() override {
+        if (GetParam()) {
+            if (!試験用PostgreSQL::利用可能()) GTEST_SKIP() << "KONPEKI_TEST_PG is not set";
+            pg = std::make_unique<試験用PostgreSQL>();
+        }
+        木 = std::make_unique<試験用ツリー>(pg ? pg->接続情報() : QString());
+        ASSERT_TRUE(木->作成済み) << 木->エラー.toStdString();
+        環境.自身のフォルダ = 木->プログラムフォルダ();
+        ASSERT_TRUE(環境.SYB_OPEN());
+        ASSERT_TRUE(環境.DB_OPEN());
+    }
+
+    QList<QVariantList> 履歴() {
+        return 木->環境DB行(u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs);
+    }
+
+    std::unique_ptr<試験用PostgreSQL> pg;
+    std::unique_ptr<試験用ツリー> 木;
+    台本プラットフォーム 基盤;
+    データ環境 環境{基盤};
+};
+
+TEST_P(データ層, 行のある問合せは真で先頭行に立ち列名で読める) {
+    記録集合 rs;
+    ASSERT_TRUE(環境.業務DB検索(rs, u"SELECT コード, 名称 FROM M事業所 ORDER BY コード"_qs));
+    EXPECT_EQ(rs.文字列(u"コード"_qs), u"000"_qs);
+    EXPECT_FALSE(rs.文字列(u"名称"_qs).isEmpty());
+    int 件数 = 0;
+    for (; !rs.EOFか(); rs.MoveNext()) ++件数;
+    EXPECT_EQ(件数, 3);
+    rs.閉じる();
+}
+
+TEST_P(データ層, 行のない問合せは偽で記録集合はなお閉じられる) {
+    記録集合 rs;
+    EXPECT_FALSE(環境.業務DB検索(rs, u"SELECT * FROM M事業所 WHERE コード = '999'"_qs));
+    EXPECT_TRUE(rs.EOFか());
+    rs.閉じる();
+    EXPECT_TRUE(履歴().isEmpty());  // no row is no error
+}
+
+TEST_P(データ層, Nullの列はNullと分かり文字列では空になる) {
+    ASSERT_TRUE(木->業務DB実行(u"UPDATE M事業所 SET FAX = NULL WHERE コード = '001'"_qs));
+    記録集合 rs;
+    ASSERT_TRUE(環境.業務DB検索(rs, u"SELECT FAX, 名称 FROM M事業所 WHERE コード = '001'"_qs));
+    EXPECT_TRUE(rs.Null(u"FAX"_qs));
+    EXPECT_EQ(rs.文字列(u"FAX"_qs), QString());
+    EXPECT_FALSE(rs.Null(u"名称"_qs));
+    rs.閉じる();
+}
+
+TEST_P(データ層, 列名の英字は大文字小文字を問わず読める) {
+    記録集合 rs;
+    ASSERT_TRUE(環境.業務DB検索(rs, u"SELECT * FROM Mユーザ WHERE ID = '0001'"_qs));
+    EXPECT_EQ(rs.文字列(u"ID"_qs), u"0001"_qs);
+    EXPECT_EQ(rs.文字列(u"id"_qs), u"0001"_qs);
+    EXPECT_EQ(rs.整数(u"決算月"_qs), 3);
+    rs.閉じる();
+}
+
+TEST_P(データ層, TOPは両方のエンジンで行数を限る) {
+    記録集合 rs;
+    ASSERT_TRUE(環境.業務DB検索(rs, u"SELECT TOP 2 [コード] FROM M事業所 ORDER BY コード"_qs));
+    int 件数 = 0;
+    for (; !rs.EOFか(); rs.MoveNext()) ++件数;
+    EXPECT_EQ(件数, 2);
+    rs.閉じる();
+}
+
+TEST_P(データ層, 自由入力の引用符は二重化されて一つで届き符号は触れない) {
+    const QString 名 = u"O'Neil商会  "_qs;
+    ASSERT_TRUE(環境.業務DB実行(u"UPDATE M事業所 SET 名称 = '"_qs + 引用符二重化(名) +
+                                u"' WHERE コード = '001'"_qs));
+    記録集合 rs;
+    ASSERT_TRUE(環境.業務DB検索(rs, u"SELECT 名称 FROM M事業所 WHERE コード = '001'"_qs));
+    EXPECT_EQ(rs.文字列(u"名称"_qs), u"O'Neil商会"_qs);
+    rs.閉じる();
+    // A code goes in as it is: a quote in it breaks the statement, which fails quietly.
+    EXPECT_FALSE(環境.業務DB検索(rs, u"SELECT 名称 FROM M事業所 WHERE コード = '0'1'"_qs));
+    rs.閉じる();
+    EXPECT_TRUE(基盤.表示済み.isEmpty());
+}
+
+TEST_P(データ層, 失敗した文はエラー行を一つ書き引用符は二重のまま残り箱は出ない) {
+    const QString 文 = u"SELECT * FROM 無い表 WHERE 名称 = 'x'"_qs;
+    記録集合 rs;
+    EXPECT_FALSE(環境.業務DB検索(rs, 文));
+    rs.閉じる();
+    EXPECT_TRUE(基盤.表示済み.isEmpty());
+    const auto 行 = 履歴();
+    ASSERT_EQ(行.size(), 1);
+    const QString 摘要 = 行[0][1].toString();
+    EXPECT_TRUE(摘要.startsWith(u"エラー "_qs)) << 摘要.toStdString();
+    EXPECT_TRUE(摘要.endsWith(u"SELECT * FROM 無い表 WHERE 名称 = ''x''"_qs)) << 摘要.toStdString();
+}
+
+TEST_P(データ層, 失敗した実行も偽でエラー行を書く) {
+    EXPECT_FALSE(環境.業務DB実行(u"UPDATE 無い表 SET a = 1"_qs));
+    const auto 行 = 履歴();
+    ASSERT_EQ(行.size(), 1);
+    EXPECT_TRUE(行[0][1].toString().startsWith(u"エラー "_qs));
+}
+
+TEST_P(データ層, 履歴フラグの文は成功の後に出力終了行を書き引用符は二つで残る) {
+    const QString 文 = u"UPDATE M事業所 SET 名称 = 'A''s' WHERE コード = '002'"_qs;
+    EXPECT_TRUE(環境.業務DB実行(文, true));
+    const auto 行 = 履歴();
+    ASSERT_EQ(行.size(), 1);
+    EXPECT_EQ(行[0][0].toString(), u"000000000001"_qs);
+    // Doubled once more than the statement itself: the table holds ''A''''s''.
+    EXPECT_EQ(行[0][1].toString(), u"出力終了 "_qs + 引用符二重化(文));
+    EXPECT_TRUE(環境.業務DB実行(u"UPDATE M事業所 SET 名称 = 'b' WHERE コード = '002'"_qs, false));
+    EXPECT_EQ(履歴().size(), 1);
+}
+
+TEST_P(データ層, 履歴フラグの問合せも記録される) {
+    記録集合 rs;
+    EXPECT_TRUE(環境.業務DB検索(rs, u"SELECT * FROM M事業所"_qs, true));
+    rs.閉じる();
+    ASSERT_EQ(履歴().size(), 1);
+    EXPECT_EQ(履歴()[0][1].toString(), u"出力終了 SELECT * FROM M事業所"_qs);
+}
+
+TEST_P(データ層, 環境DB実行記録付はいつも履歴を書き環境DB実行は書かない) {
+    EXPECT_TRUE(環境.環境DB実行(u"UPDATE 動作環境定義 SET バックアップ方法 = 0"_qs));
+    EXPECT_TRUE(履歴().isEmpty());
+    EXPECT_TRUE(環境.環境DB実行記録付(u"UPDATE 動作環境定義 SET バックアップ方法 = 0"_qs));
+    ASSERT_EQ(履歴().size(), 1);
+    EXPECT_TRUE(履歴()[0][1].toString().startsWith(u"出力終了 UPDATE 動作環境定義"_qs));
+}
+
+TEST_P(データ層, DB_CLOSEOPENは環境DBを開き直す) {
+    EXPECT_TRUE(環境.DB_CLOSEOPEN());
+    EXPECT_TRUE(環境.環境DB接続中);
+    記録集合 rs;
+    EXPECT_TRUE(環境.環境DB検索(rs, u"SELECT * FROM 動作環境定義"_qs));
+    rs.閉じる();
+}
+
+TEST_P(データ層, 金額の列は四桁の小数まで正確に読める) {
+    ASSERT_TRUE(木->業務DB実行(u"UPDATE Mユーザ SET 現金決済金額 = 12345678.1235 WHERE ID = '0001'"_qs));
+    記録集合 rs;
+    ASSERT_TRUE(環境.業務DB検索(rs, u"SELECT 現金決済金額 FROM Mユーザ WHERE ID = '0001'"_qs));
+    EXPECT_EQ(rs.金額値(u"現金決済金額"_qs).万分単位(), 123456781235);
+    rs.閉じる();
+}
+
+INSTANTIATE_TEST_SUITE_P(エンジン, データ層, ::testing::Values(false, true),
+                         [](const auto& i) { return i.param ? "PostgreSQL" : "SQLite"; });
+
+}  // namespace
