@@ -23,11 +23,14 @@ int main(int argc, char** argv) {
     二重起動検査 検査(QDir::tempPath(), QCoreApplication::applicationDirPath(), 端末利用者名取得());
     起動.他に起動中 = [&] { return 検査.他に起動中(); };
     窓.閉じる時 = [&] { 起動.停止処理(); };
-    // For the start-up benchmark: say when the window is up, then close as an operator would.
-    if (qEnvironmentVariableIsSet("KONPEKI_CLOSE_WHEN_SHOWN")) {
+    // For the benchmark and the tests: a picture of the window, word that it is up, and a close
+    // as an operator would close it.
+    const QString 写真 = qEnvironmentVariable("KONPEKI_SCREENSHOT");
+    if (qEnvironmentVariableIsSet("KONPEKI_CLOSE_WHEN_SHOWN") || !写真.isEmpty()) {
         窓.表示後 = [&] {
-            QTextStream(stdout) << "shown" << Qt::endl;
-            窓.close();
+            if (!写真.isEmpty()) 窓.grab().save(写真);
+            QTextStream(stdout) << "shown " << 窓.windowTitle() << Qt::endl;
+            if (qEnvironmentVariableIsSet("KONPEKI_CLOSE_WHEN_SHOWN")) 窓.close();
         };
     }
 

@@ -8,7 +8,7 @@
 
 // What the start-up asks of the entry screen.
 class 入力画面 {
-public:
+  public:
     virtual ~入力画面() = default;
     // Shows the screen, not modal; showing runs its load step.
     virtual void 表示() = 0;
@@ -21,7 +21,7 @@ enum class 起動結果 { 稼動, 停止 };
 // The program's spine from process start to the first keystroke, and from the last command to
 // the process end.
 class 紺碧帳起動 {
-public:
+  public:
     紺碧帳起動(出金セッション& セッション, 入力画面& 画面);
 
     // Answers whether this program already runs by hand for this user; asked at one fixed
@@ -39,7 +39,7 @@ public:
 
     起動コマンド コマンド;
 
-private:
+  private:
     bool 人事連携選択(const QString& 業務名);
     bool 人事連携開始();
     void 人事連携終了();

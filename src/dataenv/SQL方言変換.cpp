@@ -4,7 +4,9 @@
 
 namespace {
 
-bool 語の文字(QChar c) { return c.isLetterOrNumber() || c == u'_'; }
+bool 語の文字(QChar c) {
+    return c.isLetterOrNumber() || c == u'_';
+}
 
 // True when the word at i stands alone (no letter or digit glued on either side).
 bool 単語一致(const QString& s, qsizetype i, QStringView 語) {
@@ -129,6 +131,13 @@ struct 変換器 {
 
 QString SQL方言変換(const QString& 文, SQL方言 方言) {
     if (方言 == SQL方言::そのまま) return 文;
+    // Most statements hold none of the forms that differ: they pass untouched and uncopied.
+    const bool 書換候補 =
+        文.contains(u"TOP"_qs, Qt::CaseInsensitive) ||
+        (方言 == SQL方言::SQLite
+             ? 文.contains(u"LEFT"_qs, Qt::CaseInsensitive)
+             : 文.contains(u'[') || 文.contains(u"nvarchar"_qs, Qt::CaseInsensitive));
+    if (!書換候補) return 文;
     // A stray closing bracket at the top level is copied as it is, so that a broken statement
     // still reaches the engine and fails there.
     変換器 v{文, 方言};

@@ -51,7 +51,9 @@ bool データベースを作る(データ接続& 接続, const 接続先& 先, 
            SQLファイル実行(接続, スキーマ + u"/seed/"_qs + 種類 + u".sql"_qs, エラー);
 }
 
-QString 引用(const QString& s) { return u"'"_qs + QString(s).replace(u"'"_qs, u"''"_qs) + u"'"_qs; }
+QString 引用(const QString& s) {
+    return u"'"_qs + QString(s).replace(u"'"_qs, u"''"_qs) + u"'"_qs;
+}
 
 }  // namespace
 
@@ -72,6 +74,16 @@ bool SQLファイル実行(データ接続& 接続, const QString& ファイル,
 
 bool SQLフォルダ実行(データ接続& 接続, const QString& フォルダ, QString& エラー) {
     const QDir d(フォルダ);
+    // Tables shared with the general database are defined once, there.
+    if (QFile 共用(d.filePath(u"共用.txt"_qs)); 共用.open(QIODevice::ReadOnly)) {
+        for (const QString& 行 : QString::fromUtf8(共用.readAll()).split(u'\n')) {
+            const QString 表 = 行.trimmed();
+            if (表.isEmpty() || 表.startsWith(u'#')) continue;
+            if (!SQLファイル実行(接続, d.filePath(u"../general/"_qs + 表 + u".sql"_qs), エラー)) {
+                return false;
+            }
+        }
+    }
     for (const QString& 名 : d.entryList({u"*.sql"_qs}, QDir::Files, QDir::Name)) {
         if (!SQLファイル実行(接続, d.filePath(名), エラー)) return false;
     }
@@ -116,7 +128,8 @@ bool ツリー作成(const ツリー作成指定& 指定, QString& エラー) {
     データ接続 環境(u"tree-conf"_qs);
     接続先 環境先;
     環境先.ファイル = 環境DB;
-    if (!データベースを作る(環境, 環境先, 指定.スキーマフォルダ, u"config"_qs, エラー)) return false;
+    if (!データベースを作る(環境, 環境先, 指定.スキーマフォルダ, u"config"_qs, エラー))
+        return false;
 
     データ接続 業務(u"tree-gnr"_qs);
     QString 定義;
@@ -125,12 +138,15 @@ bool ツリー作成(const ツリー作成指定& 指定, QString& エラー) {
         if (!空のSQLiteを作る(業務DB, エラー)) return false;
         接続先 先;
         先.ファイル = 業務DB;
-        if (!データベースを作る(業務, 先, 指定.スキーマフォルダ, u"general"_qs, エラー)) return false;
+        if (!データベースを作る(業務, 先, 指定.スキーマフォルダ, u"general"_qs, エラー))
+            return false;
         定義 = u"UPDATE データベース定義 SET db = 'A', データソース名 = "_qs + 引用(業務DB);
     } else {
         const 接続先 先 = PostgreSQL接続先(指定.PostgreSQL接続情報);
-        if (!データベースを作る(業務, 先, 指定.スキーマフォルダ, u"general"_qs, エラー)) return false;
-        const QString サーバー = 先.ポート > 0 ? 先.ホスト + u":"_qs + QString::number(先.ポート) : 先.ホスト;
+        if (!データベースを作る(業務, 先, 指定.スキーマフォルダ, u"general"_qs, エラー))
+            return false;
+        const QString サーバー =
+            先.ポート > 0 ? 先.ホスト + u":"_qs + QString::number(先.ポート) : 先.ホスト;
         定義 = u"UPDATE データベース定義 SET db = 'P', サーバー名 = "_qs + 引用(サーバー) +
                u", データベース名 = "_qs + 引用(先.データベース名) + u", ユーザーID = "_qs +
                引用(先.ユーザー) + u", パスワード = "_qs + 引用(先.パスワード) +

@@ -16,7 +16,7 @@ struct ツリー作成指定 {
     QString 根;
     QString スキーマフォルダ;
     QString PostgreSQL接続情報;  // empty: SQLite
-    QStringList 複写プログラム;   // files copied into prgbin
+    QStringList 複写プログラム;  // files copied into prgbin
 };
 
 // Builds a complete folder tree with its databases and the sample company.

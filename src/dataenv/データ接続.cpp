@@ -5,11 +5,16 @@
 #include <QSqlQuery>
 
 データ接続::データ接続(QString 用途)
-    : 接続名(u"konpeki-"_qs + 用途 + u"-"_qs + QString::number(reinterpret_cast<quintptr>(this), 16)) {}
+    : 接続名(u"konpeki-"_qs + 用途 + u"-"_qs +
+             QString::number(reinterpret_cast<quintptr>(this), 16)) {}
 
-データ接続::~データ接続() { 閉じる(); }
+データ接続::~データ接続() {
+    閉じる();
+}
 
-QSqlDatabase データ接続::生接続() const { return QSqlDatabase::database(接続名, false); }
+QSqlDatabase データ接続::生接続() const {
+    return QSqlDatabase::database(接続名, false);
+}
 
 bool データ接続::開いている() const {
     return QSqlDatabase::contains(接続名) && 生接続().isOpen();
@@ -17,7 +22,7 @@ bool データ接続::開いている() const {
 
 void データ接続::エラー記録(const QSqlError& e) {
     エラー.番号 = e.nativeErrorCode().isEmpty() ? QString::number(static_cast<int>(e.type()))
-                                                 : e.nativeErrorCode();
+                                                : e.nativeErrorCode();
     エラー.説明 = e.text();
 }
 
@@ -62,7 +67,8 @@ bool データ接続::開く(const 接続先& 先) {
         // Opening is lazy in SQLite: read the catalogue once so that a file that is no
         // database fails here, and let readers and one writer work side by side.
         QSqlQuery q(db);
-        if (!q.exec(u"PRAGMA journal_mode=WAL"_qs) || !q.exec(u"SELECT count(*) FROM sqlite_master"_qs)) {
+        if (!q.exec(u"PRAGMA journal_mode=WAL"_qs) ||
+            !q.exec(u"SELECT count(*) FROM sqlite_master"_qs)) {
             エラー記録(q.lastError());
             q = QSqlQuery();
             閉じる();

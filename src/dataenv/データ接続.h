@@ -10,13 +10,13 @@
 struct 接続先 {
     enum class 種類 { SQLite, PostgreSQL, ODBC };
     種類 エンジン = 種類::SQLite;
-    QString ファイル;          // SQLite
-    QString ホスト;            // PostgreSQL: host name or socket folder
-    int ポート = 0;            // PostgreSQL: 0 = the driver's default
-    QString データベース名;    // PostgreSQL
-    QString ユーザー;          // PostgreSQL, ODBC
-    QString パスワード;        // PostgreSQL, ODBC
-    QString ODBC接続文字列;    // ODBC
+    QString ファイル;        // SQLite
+    QString ホスト;          // PostgreSQL: host name or socket folder
+    int ポート = 0;          // PostgreSQL: 0 = the driver's default
+    QString データベース名;  // PostgreSQL
+    QString ユーザー;        // PostgreSQL, ODBC
+    QString パスワード;      // PostgreSQL, ODBC
+    QString ODBC接続文字列;  // ODBC
 };
 
 // An error as the original's error object carried it: a number and a description.
@@ -27,7 +27,7 @@ struct 接続エラー {
 
 // One long-lived connection. Every statement passes the dialect translation on its way in.
 class データ接続 {
-public:
+  public:
     explicit データ接続(QString 用途);
     ~データ接続();
     データ接続(const データ接続&) = delete;
@@ -46,7 +46,7 @@ public:
     SQL方言 方言() const { return 変換先; }
     QSqlDatabase 生接続() const;
 
-private:
+  private:
     void エラー記録(const QSqlError& e);
 
     QString 接続名;

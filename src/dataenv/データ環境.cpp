@@ -97,8 +97,8 @@ bool データ環境::SYB_OPEN() {
         動作環境定義読込(true);
         作業事業所コード = 環境.運用事業所コード;
     } catch (const 中断& 中) {
-        基盤.メッセージ(u"SYB_OPEN ERROR"_qs + 中.エラー.番号 + u" "_qs + 中.エラー.説明 + u"\n"_qs +
-                        u"sysopen error"_qs);
+        基盤.メッセージ(u"SYB_OPEN ERROR"_qs + 中.エラー.番号 + u" "_qs + 中.エラー.説明 +
+                        u"\n"_qs + u"sysopen error"_qs);
     }
     return 環境DB接続中;
 }
@@ -148,9 +148,8 @@ void データ環境::動作環境定義読込(bool 全項目) {
             e.運用条件切替日付 = 文字(u"運用条件切替日付", {}).left(8);
             e.バックアップ方法 = 整数(u"バックアップ方法");
             e.バックアップ日指定 = 整数(u"バックアップ日指定");
-            const char16_t* 曜日[] = {u"月曜バックアップ", u"火曜バックアップ",
-                                      u"水曜バックアップ", u"木曜バックアップ",
-                                      u"金曜バックアップ", u"土曜バックアップ",
+            const char16_t* 曜日[] = {u"月曜バックアップ", u"火曜バックアップ", u"水曜バックアップ",
+                                      u"木曜バックアップ", u"金曜バックアップ", u"土曜バックアップ",
                                       u"日曜バックアップ"};
             for (int i = 0; i < 7; ++i) e.曜日別バックアップ[i] = 整数(曜日[i]);
             e.バックアップ開始時刻 = 文字(u"バックアップ開始時刻", {});
@@ -174,8 +173,8 @@ void データ環境::利用者別環境準備() {
         e.帳票DB種別 = 2;
     }
     if (!フォルダ有無確認(e.環境フォルダ) || !ファイル有無確認(e.環境フォルダ + 環境ファイル)) {
-        エラー履歴書込(u"利用者別環境準備 User ConfF="_qs + e.環境フォルダ +
-                       u" User Report ="_qs + e.帳票フォルダ);
+        エラー履歴書込(u"利用者別環境準備 User ConfF="_qs + e.環境フォルダ + u" User Report ="_qs +
+                       e.帳票フォルダ);
     }
 }
 
@@ -213,10 +212,10 @@ bool データ環境::DB_OPEN() {
         先.エンジン = 接続先::種類::ODBC;
         先.ユーザー = e.ユーザーID;
         先.パスワード = e.パスワード;
-        先.ODBC接続文字列 =
-            e.db == u"S" ? u"DRIVER={"_qs + e.プロバイダ名 + u"};SERVER="_qs + e.サーバー名 +
-                               u";DATABASE="_qs + e.データベース名 + u";"_qs
-                         : u"DSN="_qs + e.データソース名 + u";"_qs;
+        先.ODBC接続文字列 = e.db == u"S"
+                                ? u"DRIVER={"_qs + e.プロバイダ名 + u"};SERVER="_qs + e.サーバー名 +
+                                      u";DATABASE="_qs + e.データベース名 + u";"_qs
+                                : u"DSN="_qs + e.データソース名 + u";"_qs;
     } else {
         // Nothing is opened, yet the flag says open: the close at the end tries it anyway.
         業務DB接続中 = true;

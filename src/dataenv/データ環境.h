@@ -18,7 +18,7 @@ struct 操作者情報 {
 // The data side of the one session of a run: where the program stands, its two connections,
 // and the run history that traces them. A test makes a fresh one for each case.
 class データ環境 {
-public:
+  public:
     explicit データ環境(プラットフォーム& 基盤, QString プログラムID = u"紺碧帳"_qs);
 
     プラットフォーム& 基盤;
@@ -69,7 +69,7 @@ public:
     データ接続& 環境DB() { return 環境接続; }
     データ接続& 業務DB() { return 業務接続; }
 
-private:
+  private:
     void 木を探す();
     void データベース定義読込();
     void 動作環境定義読込(bool 全項目);

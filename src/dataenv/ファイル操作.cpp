@@ -32,9 +32,13 @@ QString 端末名取得() {
     return 終端まで(緩衝);
 }
 
-bool ファイル有無確認(const QString& パス) { return !パス.isEmpty() && QFileInfo(パス).isFile(); }
+bool ファイル有無確認(const QString& パス) {
+    return !パス.isEmpty() && QFileInfo(パス).isFile();
+}
 
-bool フォルダ有無確認(const QString& パス) { return !パス.isEmpty() && QFileInfo(パス).isDir(); }
+bool フォルダ有無確認(const QString& パス) {
+    return !パス.isEmpty() && QFileInfo(パス).isDir();
+}
 
 bool ファイル複写(const QString& 元, const QString& 先) {
     if (QFileInfo::exists(先)) QFile::remove(先);
@@ -84,8 +88,8 @@ void DIREXISTCHK(const QString& パス, プラットフォーム& 基盤) {
         const QString フォルダ = パス.left(j);
         if (フォルダ.isEmpty() || QFileInfo(フォルダ).isDir()) continue;
         if (!QDir().mkdir(フォルダ)) {
-            基盤.メッセージ(u"DIREXISTCHK ERROR"_qs + u"76"_qs + u" "_qs + u"パスが見つかりません。"_qs +
-                            u"\n"_qs + u"direxeistchk"_qs);
+            基盤.メッセージ(u"DIREXISTCHK ERROR"_qs + u"76"_qs + u" "_qs +
+                            u"パスが見つかりません。"_qs + u"\n"_qs + u"direxeistchk"_qs);
             return;
         }
     }

@@ -8,7 +8,8 @@ using 文字列列 = std::pair<const char16_t*, QString*>;
 using 整数列 = std::pair<const char16_t*, short*>;
 
 // A Null column keeps the field's default; numbers are read by their numeric value.
-void 読む(const 記録集合& rs, std::initializer_list<文字列列> 文字列, std::initializer_list<整数列> 整数) {
+void 読む(const 記録集合& rs, std::initializer_list<文字列列> 文字列,
+          std::initializer_list<整数列> 整数) {
     for (const auto& [名, 値] : 文字列) {
         const QString 列名 = QString::fromUtf16(名);
         if (!rs.Null(列名)) *値 = rs.文字列(列名);
@@ -167,7 +168,8 @@ void データ環境::事業所情報読込() {
               {u"BACKUPフォルダ", &o.BACKUPフォルダ},
               {u"地区コード", &o.地区コード}},
              {{u"暗証番号有無", &o.暗証番号有無}, {u"更新実行区分", &o.更新実行区分}});
-        if (!rs.Null(u"特権暗証番号"_qs)) o.特権暗証番号 = 暗証解読->解読(rs.文字列(u"特権暗証番号"_qs));
+        if (!rs.Null(u"特権暗証番号"_qs))
+            o.特権暗証番号 = 暗証解読->解読(rs.文字列(u"特権暗証番号"_qs));
 
         // A branch office speaks for itself where it has something to say.
         if (環境.運用事業所コード != u"000") {

@@ -9,11 +9,12 @@ void データ環境::履歴書込(const QString& 摘要) {
     const QString 日時 = 基盤.現在時刻().toString(u"yyyyMMdd HHmmss"_qs);
     const QString カウンタ =
         QString::number(static_cast<qint64>(稼動カウンタ)).rightJustified(12, u'0');
-    const QString 文 = u"INSERT INTO プログラム稼動履歴 ("_qs + u"実行日付,"_qs + u"プログラムID,"_qs +
-                       u"proccounter,"_qs + u"摘要,"_qs + u"運用事業所コード,"_qs + u"起動担当者コード,"_qs +
-                       u"ユーザID)"_qs + u"VALUES ("_qs + u"'"_qs + 日時 + u"'"_qs + u", '"_qs + プログラムID +
-                       u"', '"_qs + カウンタ + u"', '"_qs + 摘要 + u"', '"_qs + 環境.運用事業所コード +
-                       u"', '"_qs + 操作者.担当者コード + u"', '"_qs + 環境.ユーザID + u"')"_qs;
+    const QString 文 =
+        u"INSERT INTO プログラム稼動履歴 ("_qs + u"実行日付,"_qs + u"プログラムID,"_qs +
+        u"proccounter,"_qs + u"摘要,"_qs + u"運用事業所コード,"_qs + u"起動担当者コード,"_qs +
+        u"ユーザID)"_qs + u"VALUES ("_qs + u"'"_qs + 日時 + u"'"_qs + u", '"_qs + プログラムID +
+        u"', '"_qs + カウンタ + u"', '"_qs + 摘要 + u"', '"_qs + 環境.運用事業所コード +
+        u"', '"_qs + 操作者.担当者コード + u"', '"_qs + 環境.ユーザID + u"')"_qs;
     環境DB().実行(文);
 }
 
@@ -22,7 +23,9 @@ void データ環境::開始履歴書込() {
     履歴書込(u"開始 "_qs + 引用符二重化(コマンドライン.trimmed()));
 }
 
-void データ環境::終了履歴書込() { 履歴書込(u"終了"_qs); }
+void データ環境::終了履歴書込() {
+    履歴書込(u"終了"_qs);
+}
 
 void データ環境::出力履歴書込(const QString& 文) {
     // The update monitor polls the queue; its polls would flood the history.

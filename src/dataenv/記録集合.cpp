@@ -13,17 +13,14 @@ void 記録集合::MoveNext() {
 
 void 記録集合::閉じる() {
     当行あり = false;
-    列番号表.clear();
+    列一覧 = QSqlRecord();
     問合せ.reset();
 }
 
 int 記録集合::列番号(const QString& 列名) const {
     if (!問合せ) return -1;
-    auto it = 列番号表.constFind(列名);
-    if (it != 列番号表.constEnd()) return *it;
-    const int i = 問合せ->record().indexOf(列名);  // case-insensitive, as the engines fold ASCII
-    列番号表.insert(列名, i);
-    return i;
+    if (列一覧.isEmpty()) 列一覧 = 問合せ->record();
+    return 列一覧.indexOf(列名);  // case-insensitive, as the engines fold ASCII
 }
 
 QVariant 記録集合::値(const QString& 列名) const {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <QHash>
 #include <QSqlQuery>
+#include <QSqlRecord>
 #include <QString>
 #include <QVariant>
 #include <memory>
@@ -11,7 +11,7 @@
 // The result of one query, read forward by column name. The caller closes it on every path,
 // whether the query answered True or not.
 class 記録集合 {
-public:
+  public:
     記録集合() = default;
 
     bool EOFか() const { return !当行あり; }
@@ -30,13 +30,13 @@ public:
     // Money exactly as stored, rounded half to even at the fourth decimal.
     金額 金額値(const QString& 列名) const;
 
-private:
+  private:
     friend class データ接続;
     int 列番号(const QString& 列名) const;
 
     std::unique_ptr<QSqlQuery> 問合せ;
     bool 当行あり = false;
-    mutable QHash<QString, int> 列番号表;
+    mutable QSqlRecord 列一覧;  // the columns, read once per result
 };
 
 // A 16-bit integer by the numeric value of a text; what does not fit or is no number reads as 0.

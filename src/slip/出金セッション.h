@@ -25,7 +25,7 @@ struct 出金見出し {
 // The one session of a run: the data environment, the slip in memory and the flags that steer
 // the screen. A test makes a fresh one for each case.
 class 出金セッション {
-public:
+  public:
     explicit 出金セッション(プラットフォーム& 基盤) : データ(基盤) {}
 
     データ環境 データ;

@@ -5,7 +5,14 @@
 #include <QStringList>
 
 // Buttons of a message box, as the original's MsgBox styles name them.
-enum class ボタン種別 { OK, OKキャンセル, 中止再試行無視, はいいいえキャンセル, はいいいえ, 再試行キャンセル };
+enum class ボタン種別 {
+    OK,
+    OKキャンセル,
+    中止再試行無視,
+    はいいいえキャンセル,
+    はいいいえ,
+    再試行キャンセル
+};
 enum class アイコン種別 { なし, 停止, 質問, 注意, 情報 };
 enum class 応答 { OK, キャンセル, 中止, 再試行, 無視, はい, いいえ };
 
@@ -20,7 +27,7 @@ struct メッセージ指定 {
 // Everything the logic asks of its surroundings goes through here, so that tests can replay
 // an operator and the Qt layer can draw the same decisions.
 class プラットフォーム {
-public:
+  public:
     virtual ~プラットフォーム() = default;
 
     virtual 応答 メッセージ表示(const メッセージ指定& 指定) = 0;

@@ -28,7 +28,7 @@ bool 台本プラットフォーム::文書を開く(const QString& パス, cons
 }
 
 bool 台本プラットフォーム::プログラム起動(const QString& プログラム, const QStringList& 引数,
-                                           const QString& 作業フォルダ) {
+                                          const QString& 作業フォルダ) {
     起動済み.append({プログラム, 引数, 作業フォルダ});
     return true;
 }

@@ -7,7 +7,7 @@
 
 // The platform of the tests: answers come from a queue, and everything asked is recorded.
 class 台本プラットフォーム : public プラットフォーム {
-public:
+  public:
     struct 起動記録 {
         QString プログラム;
         QStringList 引数;

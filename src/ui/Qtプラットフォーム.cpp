@@ -26,23 +26,34 @@ QList<ボタン定義> ボタン一覧(ボタン種別 種別) {
     const ボタン定義 再試行{QMessageBox::Retry, 応答::再試行, u"再試行(&R)"};
     const ボタン定義 無視{QMessageBox::Ignore, 応答::無視, u"無視(&I)"};
     switch (種別) {
-        case ボタン種別::OK: return {OK};
-        case ボタン種別::OKキャンセル: return {OK, 取消};
-        case ボタン種別::中止再試行無視: return {中止, 再試行, 無視};
-        case ボタン種別::はいいいえキャンセル: return {はい, いいえ, 取消};
-        case ボタン種別::はいいいえ: return {はい, いいえ};
-        case ボタン種別::再試行キャンセル: return {再試行, 取消};
+        case ボタン種別::OK:
+            return {OK};
+        case ボタン種別::OKキャンセル:
+            return {OK, 取消};
+        case ボタン種別::中止再試行無視:
+            return {中止, 再試行, 無視};
+        case ボタン種別::はいいいえキャンセル:
+            return {はい, いいえ, 取消};
+        case ボタン種別::はいいいえ:
+            return {はい, いいえ};
+        case ボタン種別::再試行キャンセル:
+            return {再試行, 取消};
     }
     return {OK};
 }
 
 QMessageBox::Icon Qtのアイコン(アイコン種別 a) {
     switch (a) {
-        case アイコン種別::停止: return QMessageBox::Critical;
-        case アイコン種別::質問: return QMessageBox::Question;
-        case アイコン種別::注意: return QMessageBox::Warning;
-        case アイコン種別::情報: return QMessageBox::Information;
-        case アイコン種別::なし: break;
+        case アイコン種別::停止:
+            return QMessageBox::Critical;
+        case アイコン種別::質問:
+            return QMessageBox::Question;
+        case アイコン種別::注意:
+            return QMessageBox::Warning;
+        case アイコン種別::情報:
+            return QMessageBox::Information;
+        case アイコン種別::なし:
+            break;
     }
     return QMessageBox::NoIcon;
 }
@@ -66,7 +77,9 @@ QMessageBox::Icon Qtのアイコン(アイコン種別 a) {
     return 一覧.value(i >= 0 ? i : 一覧.size() - 1).答え;
 }
 
-void Qtプラットフォーム::保留イベント処理() { QApplication::processEvents(); }
+void Qtプラットフォーム::保留イベント処理() {
+    QApplication::processEvents();
+}
 
 void Qtプラットフォーム::お待ち表示(bool 表示) {
     if (!表示) {
@@ -91,6 +104,6 @@ bool Qtプラットフォーム::文書を開く(const QString& パス, const QS
 }
 
 bool Qtプラットフォーム::プログラム起動(const QString& プログラム, const QStringList& 引数,
-                                         const QString& 作業フォルダ) {
+                                        const QString& 作業フォルダ) {
     return QProcess::startDetached(プログラム, 引数, 作業フォルダ);
 }

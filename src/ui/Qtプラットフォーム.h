@@ -7,7 +7,7 @@
 
 // The platform of the real program: Qt message boxes, the system clock, the desktop.
 class Qtプラットフォーム : public プラットフォーム {
-public:
+  public:
     応答 メッセージ表示(const メッセージ指定& 指定) override;
     QDateTime 現在時刻() const override { return QDateTime::currentDateTime(); }
     void 保留イベント処理() override;
@@ -18,6 +18,6 @@ public:
 
     QString 既定の題名 = u"紺碧帳"_qs;
 
-private:
+  private:
     QPointer<QWidget> お待ち画面;
 };

@@ -1,6 +1,7 @@
 #include "ui/仮入力画面.h"
 
 #include <QCloseEvent>
+#include <QLabel>
 #include <QTimer>
 
 EntryWindow::EntryWindow(出金セッション& セッション) : s(セッション) {
@@ -20,7 +21,12 @@ void EntryWindow::showEvent(QShowEvent* e) {
     }
 }
 
-void EntryWindow::画面読込() { setWindowTitle(s.データ.会社.名称 + u"（紺碧帳）"_qs); }
+void EntryWindow::画面読込() {
+    setWindowTitle(s.データ.会社.名称 + u"（紺碧帳）"_qs);
+    auto* 題 = new QLabel(s.データ.会社.名称 + u"\n出金伝票"_qs, this);
+    題->setAlignment(Qt::AlignCenter);
+    setCentralWidget(題);
+}
 
 void 仮入力画面::表示() {
     窓.画面読込();

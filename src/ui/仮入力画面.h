@@ -8,7 +8,7 @@
 // The entry screen's window until its controls are drawn: the caption it will carry, and the
 // quit by its frame.
 class EntryWindow : public QMainWindow {
-public:
+  public:
     explicit EntryWindow(出金セッション& セッション);
     // The caption the entry screen carries: the company's name and the program's.
     void 画面読込();
@@ -16,22 +16,22 @@ public:
     std::function<void()> 閉じる時;  // the stop sequence
     std::function<void()> 表示後;    // called once the window is on screen
 
-protected:
+  protected:
     void closeEvent(QCloseEvent* e) override;
     void showEvent(QShowEvent* e) override;
 
-private:
+  private:
     出金セッション& s;
     bool 表示済み = false;
 };
 
 // Binds the start-up's view of the screen to the window.
 class 仮入力画面 : public 入力画面 {
-public:
+  public:
     explicit 仮入力画面(EntryWindow& w) : 窓(w) {}
     void 表示() override;
     void 既定フォーカス設定() override {}
 
-private:
+  private:
     EntryWindow& 窓;
 };

@@ -4,7 +4,9 @@
 
 namespace {
 
-起動モード モード(const QString& s) { return 起動コマンド::解析(s).モード(); }
+起動モード モード(const QString& s) {
+    return 起動コマンド::解析(s).モード();
+}
 
 TEST(コマンドライン, 空や空白だけなら通常) {
     EXPECT_EQ(モード(QString()), 起動モード::通常);

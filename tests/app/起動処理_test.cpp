@@ -13,7 +13,7 @@
 namespace {
 
 class 記録画面 : public 入力画面 {
-public:
+  public:
     void 表示() override { 表示回数++; }
     void 既定フォーカス設定() override { フォーカス回数++; }
     int 表示回数 = 0;
@@ -21,7 +21,7 @@ public:
 };
 
 class 起動 : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         基盤.時刻 = QDateTime(QDate(2026, 11, 22), QTime(10, 0, 0));
@@ -126,7 +126,8 @@ TEST_F(起動, 白樺の連携が開けなければ知らせて止まり終了�
 }
 
 TEST_F(起動, 連携の無い白樺の枠は開始を止めない) {
-    ASSERT_TRUE(木.業務DB実行(u"UPDATE M他業務連携 SET 業務名 = '白樺', 連携有無区分 = 0 WHERE コード = '003'"_qs));
+    ASSERT_TRUE(木.業務DB実行(
+        u"UPDATE M他業務連携 SET 業務名 = '白樺', 連携有無区分 = 0 WHERE コード = '003'"_qs));
     ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
     EXPECT_FALSE(s.白樺連携フラグ);
 }
@@ -197,9 +198,13 @@ TEST(実行ファイル, 見本の木で窓を出し閉じると開始と終了�
     p.start(木.プログラムフォルダ() + u"/紺碧帳"_qs, {});
     ASSERT_TRUE(p.waitForFinished(30000));
     EXPECT_EQ(p.exitCode(), 0);
-    EXPECT_TRUE(p.readAllStandardOutput().contains("shown"));
+    const QString 出力 = QString::fromUtf8(p.readAllStandardOutput());
+    const QString 会社名 =
+        木.業務DB行(u"SELECT 名称 FROM Mユーザ WHERE ID = '0001'"_qs)[0][0].toString();
+    EXPECT_TRUE(出力.startsWith(u"shown "_qs + 会社名 + u"（紺碧帳）"_qs)) << 出力.toStdString();
     QStringList r;
-    for (const auto& 行 : 木.環境DB行(u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs)) {
+    for (const auto& 行 :
+         木.環境DB行(u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs)) {
         r.append(行[0].toString() + u" "_qs + 行[1].toString());
     }
     EXPECT_EQ(r, (QStringList{u"000000000001 開始 "_qs, u"000000000002 終了"_qs}));

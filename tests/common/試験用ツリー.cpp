@@ -16,7 +16,9 @@ namespace {
 
 }  // namespace
 
-bool 試験用PostgreSQL::利用可能() { return !qEnvironmentVariable("KONPEKI_TEST_PG").isEmpty(); }
+bool 試験用PostgreSQL::利用可能() {
+    return !qEnvironmentVariable("KONPEKI_TEST_PG").isEmpty();
+}
 
 試験用PostgreSQL::試験用PostgreSQL() {
     名前 = u"t_"_qs + QUuid::createUuid().toString(QUuid::Id128).left(20);
@@ -64,10 +66,18 @@ bool 試験用PostgreSQL::利用可能() { return !qEnvironmentVariable("KONPEKI
     return *業務接続;
 }
 
-bool 試験用ツリー::環境DB実行(const QString& 文) { return 環境().実行(文); }
-bool 試験用ツリー::業務DB実行(const QString& 文) { return 業務().実行(文); }
-QList<QVariantList> 試験用ツリー::環境DB行(const QString& 文) { return 全行(環境(), 文); }
-QList<QVariantList> 試験用ツリー::業務DB行(const QString& 文) { return 全行(業務(), 文); }
+bool 試験用ツリー::環境DB実行(const QString& 文) {
+    return 環境().実行(文);
+}
+bool 試験用ツリー::業務DB実行(const QString& 文) {
+    return 業務().実行(文);
+}
+QList<QVariantList> 試験用ツリー::環境DB行(const QString& 文) {
+    return 全行(環境(), 文);
+}
+QList<QVariantList> 試験用ツリー::業務DB行(const QString& 文) {
+    return 全行(業務(), 文);
+}
 
 QList<QVariantList> 全行(データ接続& 接続, const QString& 文) {
     QList<QVariantList> 行;

@@ -11,14 +11,14 @@
 // A throwaway database on the PostgreSQL server that the test script started
 // (KONPEKI_TEST_PG holds its libpq connection string). Dropped at the end of the case.
 class 試験用PostgreSQL {
-public:
+  public:
     static bool 利用可能();
     試験用PostgreSQL();
     ~試験用PostgreSQL();
     QString 接続情報() const { return 情報; }
     QString データベース名() const { return 名前; }
 
-private:
+  private:
     QString 情報;
     QString 名前;
 };
@@ -26,7 +26,7 @@ private:
 // A complete folder tree of the sample company in a temporary folder, with its general
 // database in SQLite or, when a connection string is given, in PostgreSQL.
 class 試験用ツリー {
-public:
+  public:
     explicit 試験用ツリー(const QString& PostgreSQL接続情報 = {});
     QString 根() const { return 一時.path(); }
     QString プログラムフォルダ() const { return 根() + u"/prgbin"_qs; }
@@ -42,7 +42,7 @@ public:
     QList<QVariantList> 環境DB行(const QString& 文);
     QList<QVariantList> 業務DB行(const QString& 文);
 
-private:
+  private:
     データ接続& 環境();
     データ接続& 業務();
 

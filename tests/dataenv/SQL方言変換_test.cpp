@@ -3,7 +3,9 @@
 #include "dataenv/SQL方言変換.h"
 
 namespace {
-QString 変換(const QString& s, SQL方言 d) { return SQL方言変換(s, d); }
+QString 変換(const QString& s, SQL方言 d) {
+    return SQL方言変換(s, d);
+}
 }  // namespace
 
 TEST(SQL方言変換, TOPはSQLiteで末尾のLIMITになる) {
@@ -23,8 +25,9 @@ TEST(SQL方言変換, DISTINCTの後のTOPも移る) {
 
 TEST(SQL方言変換, 副問合せのTOPはその括弧の中で閉じる) {
     EXPECT_EQ(
-        変換(u"SELECT * FROM T出金 WHERE 出金No = (SELECT TOP 1 出金No FROM T出金 ORDER BY 出金No DESC) ORDER BY 出金日付"_qs,
-             SQL方言::SQLite),
+        変換(
+            u"SELECT * FROM T出金 WHERE 出金No = (SELECT TOP 1 出金No FROM T出金 ORDER BY 出金No DESC) ORDER BY 出金日付"_qs,
+            SQL方言::SQLite),
         u"SELECT * FROM T出金 WHERE 出金No = (SELECT 出金No FROM T出金 ORDER BY 出金No DESC LIMIT 1) ORDER BY 出金日付"_qs);
 }
 
@@ -52,7 +55,8 @@ TEST(SQL方言変換, 入れ子の関数を含むLEFTも最後の引数の前に
 }
 
 TEST(SQL方言変換, LEFT_JOINは関数ではないので残る) {
-    const QString 文 = u"SELECT * FROM T出金 LEFT JOIN M担当者 ON T出金.担当者コード = M担当者.コード"_qs;
+    const QString 文 =
+        u"SELECT * FROM T出金 LEFT JOIN M担当者 ON T出金.担当者コード = M担当者.コード"_qs;
     EXPECT_EQ(変換(文, SQL方言::SQLite), 文);
 }
 

@@ -3,36 +3,19 @@
 #include <QDir>
 #include <QFile>
 
-#include "common/試験用ツリー.h"
+#include "common/エンジン別試験.h"
 #include "dataenv/データ環境.h"
 #include "text/台本プラットフォーム.h"
 #include "text/項目編集.h"
 
 namespace {
 
-// The same cases run with the general database in SQLite and in PostgreSQL.
-class データ層 : public ::testing::TestWithParam<bool> {
-protected:
+class データ層 : public エンジン別試験 {
+  protected:
     void SetUp() override {
-        if (GetParam()) {
-            if (!試験用PostgreSQL::利用可能()) GTEST_SKIP() << "KONPEKI_TEST_PG is not set";
-            pg = std::make_unique<試験用PostgreSQL>();
-        }
-        木 = std::make_unique<試験用ツリー>(pg ? pg->接続情報() : QString());
-        ASSERT_TRUE(木->作成済み) << 木->エラー.toStdString();
-        環境.自身のフォルダ = 木->プログラムフォルダ();
-        ASSERT_TRUE(環境.SYB_OPEN());
-        ASSERT_TRUE(環境.DB_OPEN());
+        エンジン別試験::SetUp();
+        if (!IsSkipped() && !HasFatalFailure()) 開く();
     }
-
-    QList<QVariantList> 履歴() {
-        return 木->環境DB行(u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs);
-    }
-
-    std::unique_ptr<試験用PostgreSQL> pg;
-    std::unique_ptr<試験用ツリー> 木;
-    台本プラットフォーム 基盤;
-    データ環境 環境{基盤};
 };
 
 TEST_P(データ層, 行のある問合せは真で先頭行に立ち列名で読める) {
@@ -153,14 +136,14 @@ TEST_P(データ層, DB_CLOSEOPENは環境DBを開き直す) {
 }
 
 TEST_P(データ層, 金額の列は四桁の小数まで正確に読める) {
-    ASSERT_TRUE(木->業務DB実行(u"UPDATE Mユーザ SET 現金決済金額 = 12345678.1235 WHERE ID = '0001'"_qs));
+    ASSERT_TRUE(
+        木->業務DB実行(u"UPDATE Mユーザ SET 現金決済金額 = 12345678.1235 WHERE ID = '0001'"_qs));
     記録集合 rs;
     ASSERT_TRUE(環境.業務DB検索(rs, u"SELECT 現金決済金額 FROM Mユーザ WHERE ID = '0001'"_qs));
     EXPECT_EQ(rs.金額値(u"現金決済金額"_qs).万分単位(), 123456781235);
     rs.閉じる();
 }
 
-INSTANTIATE_TEST_SUITE_P(エンジン, データ層, ::testing::Values(false, true),
-                         [](const auto& i) { return i.param ? "PostgreSQL" : "SQLite"; });
+KONPEKI_両エンジンで(データ層);
 
 }  // namespace

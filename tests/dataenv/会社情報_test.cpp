@@ -1,34 +1,19 @@
 #include <gtest/gtest.h>
 
-#include "common/試験用ツリー.h"
+#include "common/エンジン別試験.h"
 #include "dataenv/データ環境.h"
 #include "text/台本プラットフォーム.h"
 
 namespace {
 
-class 会社設定 : public ::testing::TestWithParam<bool> {
-protected:
-    void SetUp() override {
-        if (GetParam()) {
-            if (!試験用PostgreSQL::利用可能()) GTEST_SKIP() << "KONPEKI_TEST_PG is not set";
-            pg = std::make_unique<試験用PostgreSQL>();
-        }
-        木 = std::make_unique<試験用ツリー>(pg ? pg->接続情報() : QString());
-        ASSERT_TRUE(木->作成済み) << 木->エラー.toStdString();
-    }
-    void 開く() {
-        環境.自身のフォルダ = 木->プログラムフォルダ();
-        ASSERT_TRUE(環境.SYB_OPEN());
-        ASSERT_TRUE(環境.DB_OPEN());
-    }
+class 会社設定 : public エンジン別試験 {
+  protected:
     QString 運用事業所() {
-        return 木->環境DB行(u"SELECT 運用事業所コード FROM 動作環境定義 WHERE 動作環境定義ID = '001'"_qs)[0][0]
+        return 木
+            ->環境DB行(
+                u"SELECT 運用事業所コード FROM 動作環境定義 WHERE 動作環境定義ID = '001'"_qs)[0][0]
             .toString();
     }
-    std::unique_ptr<試験用PostgreSQL> pg;
-    std::unique_ptr<試験用ツリー> 木;
-    台本プラットフォーム 基盤;
-    データ環境 環境{基盤};
 };
 
 TEST_P(会社設定, 見本の会社を読む) {
@@ -106,7 +91,8 @@ TEST_P(会社設定, 本社だけなら事業所件数は0) {
 }
 
 TEST_P(会社設定, 他業務連携の枠3と4は同じ005の行) {
-    ASSERT_TRUE(木->業務DB実行(u"UPDATE M他業務連携 SET 業務名 = '白樺', 連携有無区分 = 1 WHERE コード = '005'"_qs));
+    ASSERT_TRUE(木->業務DB実行(
+        u"UPDATE M他業務連携 SET 業務名 = '白樺', 連携有無区分 = 1 WHERE コード = '005'"_qs));
     ASSERT_TRUE(木->業務DB実行(u"UPDATE M他業務連携 SET 業務名 = '三番' WHERE コード = '003'"_qs));
     開く();
     ASSERT_TRUE(環境.基本項目読込());
@@ -120,7 +106,8 @@ TEST_P(会社設定, 他業務連携の枠3と4は同じ005の行) {
 
 TEST_P(会社設定, 行のない枠とNullの列は既定のまま) {
     ASSERT_TRUE(木->業務DB実行(u"DELETE FROM M他業務連携 WHERE コード = '002'"_qs));
-    ASSERT_TRUE(木->業務DB実行(u"UPDATE M他業務連携 SET 連携アプリフォルダ = NULL, 連携有無区分 = NULL WHERE コード = '003'"_qs));
+    ASSERT_TRUE(木->業務DB実行(
+        u"UPDATE M他業務連携 SET 連携アプリフォルダ = NULL, 連携有無区分 = NULL WHERE コード = '003'"_qs));
     開く();
     ASSERT_TRUE(環境.基本項目読込());
     EXPECT_EQ(環境.他業務連携.スロット[1].業務名, QString());
@@ -151,7 +138,6 @@ TEST_P(会社設定, 運用事業所変更は表と値を変え作業用の写�
     EXPECT_EQ(運用事業所(), u"002"_qs);
 }
 
-INSTANTIATE_TEST_SUITE_P(エンジン, 会社設定, ::testing::Values(false, true),
-                         [](const auto& i) { return i.param ? "PostgreSQL" : "SQLite"; });
+KONPEKI_両エンジンで(会社設定);
 
 }  // namespace

@@ -12,11 +12,12 @@
 namespace {
 
 class 接続開始 : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override { ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString(); }
 
     QList<QVariantList> 履歴() {
-        return 木.環境DB行(u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs);
+        return 木.環境DB行(
+            u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs);
     }
 
     試験用ツリー 木;
@@ -242,8 +243,9 @@ TEST_F(接続開始, 業務DBのファイルがなければDB_OPENは偽でエ�
 
 TEST_F(接続開始, SとOはODBCの運転手がなければ開かずエラー行を書く) {
     for (const char16_t* 方言 : {u"S", u"O"}) {
-        ASSERT_TRUE(木.環境DB実行(u"UPDATE データベース定義 SET db = '"_qs + QString::fromUtf16(方言) +
-                                  u"', プロバイダ名 = 'NoSuchDriver', データソース名 = 'nodsn'"_qs));
+        ASSERT_TRUE(
+            木.環境DB実行(u"UPDATE データベース定義 SET db = '"_qs + QString::fromUtf16(方言) +
+                          u"', プロバイダ名 = 'NoSuchDriver', データソース名 = 'nodsn'"_qs));
         データ環境 e(基盤);
         e.自身のフォルダ = 木.プログラムフォルダ();
         ASSERT_TRUE(e.SYB_OPEN());
@@ -272,9 +274,10 @@ TEST_F(接続開始, PostgreSQLが合言葉を拒めばDB_OPENは偽) {
     const QString tcp = qEnvironmentVariable("KONPEKI_TEST_PG_TCP");
     if (tcp.isEmpty()) GTEST_SKIP() << "KONPEKI_TEST_PG_TCP is not set";
     const 接続先 先 = PostgreSQL接続先(tcp);
-    ASSERT_TRUE(木.環境DB実行(u"UPDATE データベース定義 SET db = 'P', サーバー名 = '"_qs + 先.ホスト +
-                              u":"_qs + QString::number(先.ポート) + u"', データベース名 = 'postgres'"_qs +
-                              u", ユーザーID = '"_qs + 先.ユーザー + u"', パスワード = 'wrong'"_qs));
+    ASSERT_TRUE(木.環境DB実行(u"UPDATE データベース定義 SET db = 'P', サーバー名 = '"_qs +
+                              先.ホスト + u":"_qs + QString::number(先.ポート) +
+                              u"', データベース名 = 'postgres'"_qs + u", ユーザーID = '"_qs +
+                              先.ユーザー + u"', パスワード = 'wrong'"_qs));
     環境.自身のフォルダ = 木.プログラムフォルダ();
     ASSERT_TRUE(環境.SYB_OPEN());
     EXPECT_FALSE(環境.DB_OPEN());
@@ -282,7 +285,8 @@ TEST_F(接続開始, PostgreSQLが合言葉を拒めばDB_OPENは偽) {
     ASSERT_EQ(行.size(), 1);
     EXPECT_TRUE(行[0][0].toString().startsWith(u"エラー DB_OPEN ERROR"_qs));
     // and with the right password it opens
-    ASSERT_TRUE(木.環境DB実行(u"UPDATE データベース定義 SET パスワード = '"_qs + 先.パスワード + u"'"_qs));
+    ASSERT_TRUE(
+        木.環境DB実行(u"UPDATE データベース定義 SET パスワード = '"_qs + 先.パスワード + u"'"_qs));
     データ環境 e(基盤);
     e.自身のフォルダ = 木.プログラムフォルダ();
     ASSERT_TRUE(e.SYB_OPEN());

@@ -8,7 +8,7 @@
 namespace {
 
 class 稼動履歴 : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         基盤.時刻 = QDateTime(QDate(2026, 11, 22), QTime(8, 5, 9));

@@ -1,0 +1,30 @@
+#include <QCoreApplication>
+#include <QTextStream>
+#include <cstdio>
+
+#include "dataenv/スキーマ適用.h"
+#include "計測.h"
+
+void 結果表示(const char* 名前, std::vector<double> 標本, const char* 単位) {
+    std::sort(標本.begin(), 標本.end());
+    std::printf("%-44s median %9.3f %s  (min %.3f .. max %.3f, n=%zu)\n", 名前,
+                標本[標本.size() / 2], 単位, 標本.front(), 標本.back(), 標本.size());
+    std::fflush(stdout);
+}
+
+計測用ツリー::計測用ツリー() {
+    ツリー作成指定 指定;
+    指定.根 = 一時.path();
+    指定.スキーマフォルダ = QStringLiteral(KONPEKI_SCHEMA_DIR);
+    指定.複写プログラム = {QStringLiteral(KONPEKI_PROGRAM)};
+    QString エラー;
+    作成済み = ツリー作成(指定, エラー);
+    if (!作成済み) QTextStream(stderr) << エラー << "\n";
+}
+
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    起動時間計測();
+    データ層計測();
+    return 0;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <vector>
+
+// Prints one figure as "name: median (min .. max) unit" over the given samples.
+void 結果表示(const char* 名前, std::vector<double> 標本, const char* 単位);
+
+// A sample tree in a temporary folder with the built program in prgbin.
+struct 計測用ツリー {
+    QTemporaryDir 一時;
+    bool 作成済み = false;
+    計測用ツリー();
+    QString 根() const { return 一時.path(); }
+};
+
+void 起動時間計測();
+void データ層計測();
