@@ -23,6 +23,7 @@ int main(int argc, char** argv) {
     二重起動検査 検査(QDir::tempPath(), QCoreApplication::applicationDirPath(), 端末利用者名取得());
     起動.他に起動中 = [&] { return 検査.他に起動中(); };
     窓.閉じる時 = [&] { 起動.停止処理(); };
+    画面.伝票読込 = [&] { 起動.伝票読込(); };
     // For the benchmark and the tests: a picture of the window, word that it is up, and a close
     // as an operator would close it.
     const QString 写真 = qEnvironmentVariable("KONPEKI_SCREENSHOT");

@@ -1,6 +1,7 @@
 #include "app/起動処理.h"
 
 #include "text/プラットフォーム.h"
+#include "text/数値変換.h"
 
 紺碧帳起動::紺碧帳起動(出金セッション& セッション, 入力画面& 画面_) : s(セッション), 画面(画面_) {}
 
@@ -82,14 +83,66 @@ bool 紺碧帳起動::ユーザ情報初期化() {
     s.見出し.出金日付月 = QString::number(今日.month()).rightJustified(2, u'0');
     s.見出し.出金日付日 = QString::number(今日.day()).rightJustified(2, u'0');
     s.見出し.出金日付 = s.見出し.出金日付年 + s.見出し.出金日付月 + s.見出し.出金日付日;
-    出金日付確定();
+    s.出金日付確定();
     s.軽減税率表示 = false;
     return 結果;
 }
 
-void 紺碧帳起動::出金日付確定() {
-    // The number period, the proposal and the tax rates that hang on the date come with the
-    // header fields of the entry screen.
+void 紺碧帳起動::伝票読込() {
+    if (s.新規情報フラグ) {
+        s.出金情報初期化();
+        if (s.連携新規フラグ) 起動条件読込();
+    } else {
+        起動キー読込();
+    }
+}
+
+void 紺碧帳起動::起動キー読込() {
+    // A key that is not stored gives a plain new slip, without a word.
+    if (!s.出金キー検索(s.見出し.事業所コード, s.見出し.番号基準日付, s.見出し.出金No)) {
+        s.出金検索破棄();
+        return;
+    }
+    s.出金見出し読込();
+    s.出金明細読込();
+}
+
+void 紺碧帳起動::起動条件読込() {
+    auto& h = s.見出し;
+    h.出金日付 = コマンド.出金日付;
+    h.担当者コード = コマンド.担当者コード;
+    if (数値変換(h.出金日付) == 0) {
+        const QDate 今日 = s.データ.基盤.現在時刻().date();
+        h.出金日付年 = QString::number(今日.year()).rightJustified(4, u'0');
+        h.出金日付月 = QString::number(今日.month()).rightJustified(2, u'0');
+        h.出金日付日 = QString::number(今日.day()).rightJustified(2, u'0');
+        h.出金日付 = h.出金日付年 + h.出金日付月 + h.出金日付日;
+    } else {
+        h.出金日付年 = h.出金日付.mid(0, 4);
+        h.出金日付月 = h.出金日付.mid(4, 2);
+        h.出金日付日 = h.出金日付.mid(6, 2);
+    }
+    s.出金日付確定();
+    if (h.担当者コード.trimmed().isEmpty()) return;
+    if (!s.担当者検索(h.担当者コード)) {
+        // The date and staff of the command line are lost: a plain new slip for today.
+        s.担当者検索破棄();
+        s.出金情報初期化();
+        return;
+    }
+    s.担当者取込();
+
+    // The first stored slip of that day and staff is shown for correction, whatever its office.
+    記録集合 rs;
+    const QString 文 = u"SELECT"_qs + 出金見出し列 + 出金見出し結合 + u" WHERE 出金日付 = '"_qs + h.出金日付 +
+                       u"'"_qs + u" AND 担当者コード = '"_qs + h.担当者コード + u"'"_qs +
+                       u" ORDER BY 出金No"_qs;
+    if (s.データ.業務DB検索(rs, 文)) {
+        s.出金見出し読込(rs);
+        s.出金明細読込();
+        s.入力変更フラグ = false;
+    }
+    rs.閉じる();
 }
 
 void 紺碧帳起動::連携条件項目登録(const QString& メニュー名, const QString& プログラム名) {

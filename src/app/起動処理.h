@@ -32,6 +32,12 @@ class 紺碧帳起動 {
     // The quit of the window: window procedure restore, 終了処理, HR link close.
     void 停止処理();
 
+    // The slip part of the screen's load step: a new slip, a linked new slip, or the slip of
+    // the start key.
+    void 伝票読込();
+    void 起動キー読込();
+    void 起動条件読込();
+
     bool データベース開始();
     bool ユーザ情報初期化();
     void 連携条件項目登録(const QString& メニュー名, const QString& プログラム名);
@@ -44,7 +50,6 @@ class 紺碧帳起動 {
     bool 人事連携開始();
     void 人事連携終了();
     bool 操作権限確認(const QString& メニュー名, const QString& プログラム名, int 操作区分);
-    void 出金日付確定();
 
     出金セッション& s;
     入力画面& 画面;

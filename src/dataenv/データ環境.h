@@ -13,6 +13,7 @@ class プラットフォーム;
 // The operator of this workplace, as the run history and the rights check see him.
 struct 操作者情報 {
     QString 担当者コード;
+    QString 氏名;
 };
 
 // The data side of the one session of a run: where the program stands, its two connections,

@@ -20,7 +20,20 @@ void 記録集合::閉じる() {
 int 記録集合::列番号(const QString& 列名) const {
     if (!問合せ) return -1;
     if (列一覧.isEmpty()) 列一覧 = 問合せ->record();
-    return 列一覧.indexOf(列名);  // case-insensitive, as the engines fold ASCII
+    const int i = 列一覧.indexOf(列名);  // case-insensitive, as the engines fold ASCII
+    if (i >= 0) return i;
+    // SQLite renames a column of a nested outer join when a table inside the join has one of
+    // the same name ("部門コード:1"); it is still the column asked for.
+    for (int j = 0; j < 列一覧.count(); ++j) {
+        const QString 名 = 列一覧.fieldName(j);
+        const qsizetype 区切り = 名.lastIndexOf(u':');
+        if (区切り > 0 && 名.size() > 区切り + 1 &&
+            名.mid(区切り + 1).toUInt() > 0 &&
+            QStringView(名).left(区切り).compare(列名, Qt::CaseInsensitive) == 0) {
+            return j;
+        }
+    }
+    return -1;
 }
 
 QVariant 記録集合::値(const QString& 列名) const {

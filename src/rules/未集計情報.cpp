@@ -10,16 +10,15 @@ QString 記録者ID(const プログラム環境情報& 環境) {
 
 書込結果 未集計情報書込(データ環境& e, const QString& 登録情報区分, const QString& 赤黒区分,
                         const QString& 番号ID, const QString& 事業所コード,
-                        const QString& 番号基準日付, const QString& 伝票No,
-                        const QString& 履歴No) {
+                        const QString& 番号基準日付, const QString& 伝票No, const QString& 履歴No) {
     const QString 文 = u"INSERT INTO [未集計情報] "_qs + u"(事業所コード"_qs + u",番号ID"_qs +
                        u",番号基準日付"_qs + u",履歴No"_qs + u",赤黒区分"_qs + u",伝票No"_qs +
                        u",追加キー項目"_qs + u",データフラグ"_qs + u",登録情報区分"_qs +
                        u",予備項目)"_qs + u" VALUES "_qs + u"('"_qs + 事業所コード + u"'"_qs +
-                       u",'"_qs + 番号ID + u"'"_qs + u",'"_qs + 番号基準日付 + u"'"_qs +
-                       u",'"_qs + 履歴No + u"'"_qs + u",'"_qs + 赤黒区分 + u"'"_qs + u",'"_qs +
-                       伝票No + u"'"_qs + u",''"_qs + u",'0'"_qs + u",'"_qs + 登録情報区分 +
-                       u"'"_qs + u",'"_qs + 記録者ID(e.環境) + u"')"_qs;
+                       u",'"_qs + 番号ID + u"'"_qs + u",'"_qs + 番号基準日付 + u"'"_qs + u",'"_qs +
+                       履歴No + u"'"_qs + u",'"_qs + 赤黒区分 + u"'"_qs + u",'"_qs + 伝票No +
+                       u"'"_qs + u",''"_qs + u",'0'"_qs + u",'"_qs + 登録情報区分 + u"'"_qs +
+                       u",'"_qs + 記録者ID(e.環境) + u"')"_qs;
     const bool 成功 = e.会社.更新実行区分 == 1 ? e.業務DB実行(文, true) : e.環境DB実行(文);
     if (成功) return {1, {}};
     return {3, u"登録済です。登録できませんでした。"_qs};

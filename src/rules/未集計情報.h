@@ -21,8 +21,7 @@ QString 記録者ID(const プログラム環境情報& 環境);
 // the configuration database, where that program looks.
 書込結果 未集計情報書込(データ環境& e, const QString& 登録情報区分, const QString& 赤黒区分,
                         const QString& 番号ID, const QString& 事業所コード,
-                        const QString& 番号基準日付, const QString& 伝票No,
-                        const QString& 履歴No);
+                        const QString& 番号基準日付, const QString& 伝票No, const QString& 履歴No);
 
 // The two states of one store of a slip: the state replaced, under its kept key, and the state
 // written. A history number that is numerically 0 means that state has no history row.

@@ -4,50 +4,13 @@
 #include <utility>
 
 #include "dataenv/データ環境.h"
+#include "rules/集計日付計算.h"
 #include "text/プラットフォーム.h"
-#include "text/数値書式.h"
 #include "text/数値変換.h"
+#include "text/数値書式.h"
 #include "text/暦.h"
 
 namespace {
-
-// Closing dates of the company. They stand here until the aggregation-date rules offer them.
-bool 月末決算判定(short 決算月, short 決算日) {
-    switch (決算月) {
-        case 2:
-            return 決算日 == 28 || 決算日 == 29;
-        case 4:
-        case 6:
-        case 9:
-        case 11:
-            return 決算日 == 30;
-        case 1:
-        case 3:
-        case 5:
-        case 7:
-        case 8:
-        case 10:
-        case 12:
-            return 決算日 == 31;
-        default:
-            return false;
-    }
-}
-
-QString 月締日(const QString& 日付, const 会社情報& 会社) {
-    const int y = 日付の年(日付), m = 日付の月(日付), d = 日付の日(日付);
-    if (月末決算判定(会社.決算月, 会社.決算日)) return 日付文字列(日付構築(y, m + 1, 0));
-    const int c = 会社.決算日;
-    return 日付文字列(c >= d ? 日付構築(y, m, c) : 日付構築(y, m + 1, c));
-}
-
-QString 年度末日(const QString& 日付, const 会社情報& 会社) {
-    const int y = 日付の年(日付), M = 会社.決算月, c = 会社.決算日;
-    QDate 候補 = 月末決算判定(会社.決算月, 会社.決算日) ? 日付構築(y, M + 1, 0) : 日付構築(y, M, c);
-    // A year on keeps month and day; 29 February becomes the 28th where it is missing.
-    if (日付文字列(候補) < 日付) 候補 = 候補.addYears(1);
-    return 日付文字列(候補);
-}
 
 enum class 採番種別 { 参照, 採番, 履歴 };
 
@@ -58,8 +21,8 @@ QString 番号情報読込文(const QString& 番号ID) {
 
 QString 期日別読込文(const QString& 番号ID, const QString& 期日) {
     return u"SELECT A期日別番号情報.*"_qs + u" FROM A期日別番号情報"_qs +
-           u" WHERE A期日別番号情報.番号ID = '"_qs + 番号ID +
-           u"' AND A期日別番号情報.期日 = '"_qs + 期日 + u"'"_qs;
+           u" WHERE A期日別番号情報.番号ID = '"_qs + 番号ID + u"' AND A期日別番号情報.期日 = '"_qs +
+           期日 + u"'"_qs;
 }
 
 QString 事業所別読込文(const QString& 番号ID, const QString& 事業所コード) {
@@ -160,8 +123,8 @@ QString 次番号手続(const 番号環境& 環境, bool 事業所別, 採番種
             期日別番号行確保(環境, 番号ID, 基準日付);
             計数 = 計数読込(環境, 期日別読込文(番号ID, 基準日付), 列);
             表 = u"A期日別番号情報"_qs;
-            条件 = u"A期日別番号情報.番号ID = '"_qs + 番号ID + u"' AND A期日別番号情報.期日 = '"_qs +
-                   基準日付 + u"'"_qs;
+            条件 = u"A期日別番号情報.番号ID = '"_qs + 番号ID +
+                   u"' AND A期日別番号情報.期日 = '"_qs + 基準日付 + u"'"_qs;
         } else if (事業所別) {
             事業所別番号行確保(環境, 番号ID, 事業所コード);
             計数 = 計数読込(環境,
@@ -230,7 +193,7 @@ bool 全社番号管理(const 番号環境& 環境) {
 
 基準日付候補 基準日付候補::計算(const QString& 日付, const QString& 今日, const 会社情報& 会社) {
     const QString d = 日付 == 番号定数::永続基準日付 ? 今日 : 日付;
-    return {年度末日(d, 会社), 月締日(d, 会社), d};
+    return {年度終了日計算(会社, d), 集計日付計算(会社, d), d};
 }
 
 QString 基準日付候補::種類別(double 連番種類, QStringView 不明時) const {
@@ -268,9 +231,9 @@ QString 次番号採番(const 番号環境& 環境, const QString& 番号ID, con
 
 QString 次履歴番号採番(const 番号環境& 環境, const QString& 番号ID, const QString& 基準日付,
                        const QString& 事業所コード) {
-    return 二度目の知らせ(
-        環境, 全社番号管理(環境) ? 全社次履歴番号採番(環境, 番号ID, 基準日付)
-                                 : 事業所別次履歴番号採番(環境, 番号ID, 基準日付, 事業所コード));
+    return 二度目の知らせ(環境, 全社番号管理(環境)
+                                    ? 全社次履歴番号採番(環境, 番号ID, 基準日付)
+                                    : 事業所別次履歴番号採番(環境, 番号ID, 基準日付, 事業所コード));
 }
 
 QString 全社次番号参照(const 番号環境& 環境, const QString& 番号ID, const QString& 基準日付) {
@@ -295,8 +258,8 @@ QString 事業所別次番号採番(const 番号環境& 環境, const QString& �
     return 次番号手続(環境, true, 採番種別::採番, 番号ID, 基準日付, 事業所コード);
 }
 
-QString 事業所別次履歴番号採番(const 番号環境& 環境, const QString& 番号ID,
-                               const QString& 基準日付, const QString& 事業所コード) {
+QString 事業所別次履歴番号採番(const 番号環境& 環境, const QString& 番号ID, const QString& 基準日付,
+                               const QString& 事業所コード) {
     return 次番号手続(環境, true, 採番種別::履歴, 番号ID, 基準日付, 事業所コード);
 }
 
@@ -304,9 +267,9 @@ void 期日別番号行確保(const 番号環境& 環境, const QString& 番号I
     if (行あり(環境, 期日別読込文(番号ID, 期日))) return;
     const auto ID = 番号ID読込(環境, 番号情報読込文(番号ID));
     if (!ID) return;
-    環境.実行(u"INSERT INTO [A期日別番号情報] "_qs + u"([番号ID]"_qs + u",[期日]"_qs + u",[連番]"_qs +
-              u",[履歴連番])"_qs + u" VALUES "_qs + u"('"_qs + *ID + u"'"_qs + u",'"_qs + 期日 +
-              u"'"_qs + u",'00000000'"_qs + u",'00000000')"_qs);
+    環境.実行(u"INSERT INTO [A期日別番号情報] "_qs + u"([番号ID]"_qs + u",[期日]"_qs +
+              u",[連番]"_qs + u",[履歴連番])"_qs + u" VALUES "_qs + u"('"_qs + *ID + u"'"_qs +
+              u",'"_qs + 期日 + u"'"_qs + u",'00000000'"_qs + u",'00000000')"_qs);
 }
 
 void 事業所別番号行確保(const 番号環境& 環境, const QString& 番号ID, const QString& 事業所コード) {
@@ -323,9 +286,9 @@ void 事業所別期日別番号行確保(const 番号環境& 環境, const QStr
     if (行あり(環境, 事業所別期日別読込文(番号ID, 期日, 事業所コード))) return;
     // The condition names A事業所別番号情報, which the statement does not read: the read fails
     // and no row is ever made here.
-    const auto ID = 番号ID読込(環境, u"SELECT A番号情報.*"_qs + u" FROM A番号情報"_qs +
-                                         u" WHERE A事業所別番号情報.番号ID = '"_qs + 番号ID +
-                                         u"'"_qs);
+    const auto ID =
+        番号ID読込(環境, u"SELECT A番号情報.*"_qs + u" FROM A番号情報"_qs +
+                             u" WHERE A事業所別番号情報.番号ID = '"_qs + 番号ID + u"'"_qs);
     if (!ID) return;
     環境.実行(u"INSERT INTO [A事業所別期日別番号情報] "_qs + u"([事業所コード]"_qs +
               u",[番号ID]"_qs + u",[期日]"_qs + u",[連番]"_qs + u",[履歴連番])"_qs +
@@ -336,8 +299,8 @@ void 事業所別期日別番号行確保(const 番号環境& 環境, const QStr
 void 更新プログラム起動(データ環境& e, const QString& 番号ID) {
     記録集合 rs;
     QString プログラム;
-    if (e.業務DB検索(rs, u"SELECT 更新プログラム FROM A番号情報 WHERE 番号ID = '"_qs + 番号ID +
-                             u"'"_qs)) {
+    if (e.業務DB検索(
+            rs, u"SELECT 更新プログラム FROM A番号情報 WHERE 番号ID = '"_qs + 番号ID + u"'"_qs)) {
         プログラム = rs.文字列(u"更新プログラム"_qs);
     }
     rs.閉じる();

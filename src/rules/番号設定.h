@@ -31,7 +31,7 @@ inline constexpr QStringView 番号情報エラー文言 = u"番号情報に問�
 // for the general database, so callers simply pass their データ環境; another connection (the
 // HR link's) is wrapped with the session, whose run history receives its failures.
 class 番号環境 {
-public:
+  public:
     using 検索関数 = std::function<bool(記録集合&, const QString&)>;
     using 実行関数 = std::function<bool(const QString&)>;
 
@@ -80,12 +80,14 @@ QString 事業所別次番号参照(const 番号環境& 環境, const QString& �
                            const QString& 事業所コード);
 QString 事業所別次番号採番(const 番号環境& 環境, const QString& 番号ID, const QString& 基準日付,
                            const QString& 事業所コード);
-QString 事業所別次履歴番号採番(const 番号環境& 環境, const QString& 番号ID,
-                               const QString& 基準日付, const QString& 事業所コード);
+QString 事業所別次履歴番号採番(const 番号環境& 環境, const QString& 番号ID, const QString& 基準日付,
+                               const QString& 事業所コード);
 
 // A missing counter row is inserted with both counters "00000000", but only for an ID that
-// A番号情報 knows. The dated per-office row never is: its read of A番号情報 names the wrong
-// table, and the other programs of the suite behave the same.
+// A番号情報 knows. The dated per-office row is never made here: its read of A番号情報 is worded
+// against A事業所別番号情報, which the statement does not name, and every engine refuses it.
+// That wording is kept on purpose, as is the peek's of a per-office kind 0 counter, which fails
+// the same way and so proposes no number.
 void 期日別番号行確保(const 番号環境& 環境, const QString& 番号ID, const QString& 期日);
 void 事業所別番号行確保(const 番号環境& 環境, const QString& 番号ID, const QString& 事業所コード);
 void 事業所別期日別番号行確保(const 番号環境& 環境, const QString& 番号ID, const QString& 期日,

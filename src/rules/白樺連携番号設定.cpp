@@ -37,8 +37,7 @@ QString 連携番号基準日付取得(const 番号環境& 連携, const QString
     return 連携全社番号基準日付取得(連携, 番号ID, 日付);
 }
 
-QString 連携全社番号基準日付取得(const 番号環境& 連携, const QString& 番号ID,
-                                 const QString& 日付) {
+QString 連携全社番号基準日付取得(const 番号環境& 連携, const QString& 番号ID, const QString& 日付) {
     const auto 候補 = 基準日付候補::計算(日付, 今日(連携.基盤), 連携.会社);
     return 種類読込後基準日付(連携, 候補, 番号情報読込文(番号ID));
 }

@@ -13,8 +13,7 @@ QString 連携番号基準日付取得(const 番号環境& 連携, const QString
                              const QString& 事業所コード);
 
 // As 番号基準日付取得, except that a kind typed by hand yields "99999999".
-QString 連携全社番号基準日付取得(const 番号環境& 連携, const QString& 番号ID,
-                                 const QString& 日付);
+QString 連携全社番号基準日付取得(const 番号環境& 連携, const QString& 番号ID, const QString& 日付);
 // The kind comes from the office's own row, which is made first when it is missing.
 QString 連携事業所別番号基準日付取得(const 番号環境& 連携, const QString& 番号ID,
                                      const QString& 日付, const QString& 事業所コード);

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+#include <array>
+#include <functional>
 
 #include "dataenv/データ環境.h"
+#include "text/金額.h"
 
-// The slip header as the screen and the store see it. The remaining fields and the line table
-// join it as the load and store of slips are built.
+// The slip header in memory. The kept fields remember the stored key and date as loaded, so that
+// a changed key can still reach the stored rows.
 struct 出金見出し {
     QString 事業所コード;
     QString 出金日付年;
@@ -20,26 +24,153 @@ struct 出金見出し {
     QString 部門名;
     QString セクションコード;
     QString セクション名;
+    QString 出張申請事業所コード;
+    QString 出張申請番号基準日付;
+    QString 出張申請No;
+    short 伝票発行区分 = 0;
+    QString 出金メモ;
+    QString 出金伝票備考A;
+    QString 出金伝票備考B;
+    QString 会計集計日付;
+    金額 前回税率;
+    金額 今回税率;
+    QString 承認日付;
+    QString 承認者コード;
+    QString 承認区分;
+    QString 登録日付;
+    QString 更新日付;
+    QString 保持事業所コード;
+    QString 保持番号基準日付;
+    QString 保持出金No;
+    QString 保持出金日付;
+    QString 処理区分;  // "0" new, "1" correction, "2" delete
+    QString 出金履歴No;
+    QString 旧出金履歴No;
+    short 最大固有行No = 0;
 };
+
+// The totals of the slip, added up from its lines after each change and overwritten on load.
+struct 出金合計 {
+    金額 出金金額合計;
+    金額 出金消費税合計;
+    金額 実質出金金額合計;
+    金額 税抜出金金額合計;
+    金額 税込出金金額合計;
+    金額 前回税率出金金額合計;
+    金額 前回税率出金消費税合計;
+    金額 今回税率出金金額合計;
+    金額 今回税率出金消費税合計;
+};
+
+// One slot of the line table.
+struct 出金行 {
+    short 費目区分 = 0;  // 0: an empty row
+    QString 費目区分名称;
+    short 内税外税区分 = 0;
+    金額 消費税率;
+    金額 出金金額;
+    金額 出金消費税;
+    金額 実質出金金額;
+    金額 税抜出金金額;
+    金額 税込出金金額;
+    QString 支払先;
+    short 課税事業所区分 = 0;
+    QString 摘要;
+    QString 明細メモ;
+    QString 出金固有行No;  // stable across corrections; empty or 0 until first saved
+    QString 出金行No;      // position, rewritten at save
+    QString 承認日付;
+    QString 承認者コード;
+    QString 承認区分;
+    QString 登録日付;
+    QString 更新日付;
+};
+
+inline constexpr int 最大行数 = 15;
+inline constexpr int 表示行数 = 5;
+
+// Columns of the stored tables in the order the store writes them.
+extern const QStringList T出金列;
+extern const QStringList T出金明細列;
+
+// The columns (behind SELECT) and joins of the header read: staff joined inner, department and section outer.
+extern const QString 出金見出し列;
+extern const QString 出金見出し結合;
 
 // The one session of a run: the data environment, the slip in memory and the flags that steer
 // the screen. A test makes a fresh one for each case.
 class 出金セッション {
-  public:
+public:
     explicit 出金セッション(プラットフォーム& 基盤) : データ(基盤) {}
 
     データ環境 データ;
     出金見出し 見出し;
+    出金合計 合計;
+    // Lines use slots 0 to 14; slot 15 exists and is never used by a line.
+    std::array<出金行, 最大行数 + 1> 行;
 
     bool 新規情報フラグ = true;
     bool 入力変更フラグ = false;
     bool 連携起動フラグ = false;
     bool 連携新規フラグ = false;
+    bool 画面表示中フラグ = false;
     bool 白樺連携フラグ = false;
     bool 軽減税率表示 = false;
+    short 登録確認結果 = 0;  // 0 登録印刷, 1 登録, 2 いいえ
+    short 先頭行 = 0;
+    short 現在行 = 0;
+    short 表示行 = 0;
     short 最終行 = -1;
+
+    // Hand-over to and from the screen and the list windows.
+    QString お知らせ文言;
+    QString 一覧条件文字列;
 
     // The program link: what this run was started with, and what it answers at its end.
     QString 受信起動連携情報;
     QString 終了時連携情報;
+
+    // Clearing the slip in memory.
+    void 出金情報初期化();
+    void 出金見出し初期化();
+    void 出金明細初期化();
+    void 出金行初期化(int 位置);
+    void 出金合計初期化();
+
+    // Loading stored slips and stepping between them.
+    bool 出金キー検索(const QString& 事業所コード, const QString& 番号基準日付,
+                      const QString& 出金No);
+    void 出金見出し読込();
+    // The same from a header row of another query, which is closed afterwards.
+    void 出金見出し読込(記録集合& 結果);
+    void 出金明細読込();
+    void 出金検索破棄();
+    bool 出金No確定(const QString& 入力No);
+    bool 前No確認();
+    bool 次No確認();
+    bool 前No読込();
+    bool 次No読込();
+    bool 過去明細取込(const QString& 鍵, int 位置);
+
+    // The nine totals added up from the lines in use.
+    void 合計再計算();
+
+    // The slip date as typed: repaired, and what hangs on it derived again (number period,
+    // proposal, aggregate date, tax rates).
+    void 出金日付確定();
+    // Staff by code in the slip's office or the head office, present staff only. The result
+    // stays open for 担当者取込, or is closed by the caller.
+    bool 担当者検索(const QString& コード);
+    void 担当者取込();
+    void 担当者検索破棄() { 担当者結果.閉じる(); }
+
+    // Whether a schedule activity refers to the stored slip; asked before its number moves.
+    std::function<bool()> 日程連携確認 = [] { return false; };
+
+private:
+    QString 隣接文(bool 前) const;
+    bool 隣接読込(bool 前);
+
+    記録集合 見出し結果;  // open between 出金キー検索 and 出金見出し読込
+    記録集合 担当者結果;  // open between 担当者検索 and 担当者取込
 };

@@ -29,6 +29,7 @@ class EntryWindow : public QMainWindow {
 class 仮入力画面 : public 入力画面 {
   public:
     explicit 仮入力画面(EntryWindow& w) : 窓(w) {}
+    std::function<void()> 伝票読込;  // the slip part of the load step
     void 表示() override;
     void 既定フォーカス設定() override {}
 

@@ -7,6 +7,7 @@
 
 #include "app/二重起動.h"
 #include "app/起動処理.h"
+#include "common/伝票投入.h"
 #include "common/試験用ツリー.h"
 #include "text/台本プラットフォーム.h"
 
@@ -14,7 +15,11 @@ namespace {
 
 class 記録画面 : public 入力画面 {
   public:
-    void 表示() override { 表示回数++; }
+    void 表示() override {
+        表示回数++;
+        if (読込) 読込();
+    }
+    std::function<void()> 読込;
     void 既定フォーカス設定() override { フォーカス回数++; }
     int 表示回数 = 0;
     int フォーカス回数 = 0;
@@ -26,6 +31,7 @@ class 起動 : public ::testing::Test {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         基盤.時刻 = QDateTime(QDate(2026, 11, 22), QTime(10, 0, 0));
         s.データ.自身のフォルダ = 木.プログラムフォルダ();
+        画面.読込 = [this] { 起動処理.伝票読込(); };
     }
     QStringList 履歴() {
         QStringList r;
@@ -143,13 +149,11 @@ TEST_F(起動, 手で起こした二つ目は黙って止まり開始行と終�
 TEST_F(起動, キーのある起動は他が動いていても進む) {
     起動処理.他に起動中 = [] { return true; };
     ASSERT_EQ(起動処理.プログラム開始(u"0002024040100000001"_qs), 起動結果::稼動);
+    EXPECT_EQ(画面.表示回数, 1);
     EXPECT_TRUE(s.連携起動フラグ);
     EXPECT_FALSE(s.連携新規フラグ);
-    EXPECT_FALSE(s.新規情報フラグ);
     EXPECT_EQ(s.見出し.事業所コード, u"000"_qs);
-    EXPECT_EQ(s.見出し.番号基準日付, u"20240401"_qs);
-    EXPECT_EQ(s.見出し.出金No, u"00000001"_qs);
-    EXPECT_EQ(履歴(), QStringList{u"000000000001 開始 0002024040100000001"_qs});
+    EXPECT_EQ(履歴().first(), u"000000000001 開始 0002024040100000001"_qs);
 }
 
 TEST_F(起動, 連携新規は二つの旗を立て新規のまま) {
@@ -171,6 +175,83 @@ TEST_F(起動, 空白だけの行は通常で何も写さない) {
     EXPECT_FALSE(s.連携起動フラグ);
     EXPECT_FALSE(s.連携新規フラグ);
     EXPECT_EQ(s.見出し.事業所コード, QString());
+}
+
+TEST_F(起動, キー起動で伝票が読まれる) {
+    試験伝票 t;
+    t.出金No = u"00000004"_qs;
+    t.出金日付 = u"20261101"_qs;
+    t.番号基準日付 = u"20270331"_qs;
+    t.行数 = 3;
+    ASSERT_TRUE(伝票投入(木, t));
+    ASSERT_EQ(起動処理.プログラム開始(u"0002027033100000004"_qs), 起動結果::稼動);
+    EXPECT_FALSE(s.新規情報フラグ);
+    EXPECT_EQ(s.見出し.出金日付, u"20261101"_qs);
+    EXPECT_EQ(s.最終行, 2);
+    EXPECT_EQ(s.見出し.担当者名, u"上田 健一"_qs);
+}
+
+TEST_F(起動, 無いキーの起動は黙って新規伝票になり連携の旗は立ったまま) {
+    ASSERT_EQ(起動処理.プログラム開始(u"0002027033100000099"_qs), 起動結果::稼動);
+    EXPECT_TRUE(基盤.表示済み.isEmpty());
+    EXPECT_TRUE(s.連携起動フラグ);
+    EXPECT_TRUE(s.新規情報フラグ);
+    EXPECT_EQ(s.最終行, -1);
+    EXPECT_EQ(s.見出し.出金日付, u"20261122"_qs);
+    EXPECT_EQ(s.見出し.出金No, u"00000001"_qs);
+}
+
+TEST_F(起動, 零の基準日付と零でない番号は文字通りのキーで探し新規で終わる) {
+    ASSERT_EQ(起動処理.プログラム開始(u"0010000000000000005"_qs), 起動結果::稼動);
+    EXPECT_TRUE(s.連携起動フラグ);
+    EXPECT_FALSE(s.連携新規フラグ);
+    EXPECT_TRUE(s.新規情報フラグ);
+    const auto 閲覧 = 木.業務DB行(u"SELECT 伝票番号基準日付, 伝票No FROM T閲覧"_qs);
+    ASSERT_EQ(閲覧.size(), 1);
+    EXPECT_EQ(閲覧[0][0].toString(), u"00000000"_qs);
+    EXPECT_EQ(閲覧[0][1].toString(), u"00000005"_qs);
+}
+
+TEST_F(起動, 連携新規は日付と担当者の新規伝票を開く) {
+    ASSERT_EQ(起動処理.プログラム開始(u"00000000000000000002026111500005"_qs), 起動結果::稼動);
+    EXPECT_TRUE(s.新規情報フラグ);
+    EXPECT_EQ(s.見出し.出金日付, u"20261115"_qs);
+    EXPECT_EQ(s.見出し.担当者コード, u"00005"_qs);
+    EXPECT_EQ(s.見出し.担当者名, u"大野 大輔"_qs);
+    EXPECT_EQ(s.見出し.部門コード, u"003"_qs);
+    EXPECT_EQ(s.見出し.部門名, u"営業部"_qs);
+    EXPECT_EQ(s.見出し.セクション名, u"営業一課"_qs);
+}
+
+TEST_F(起動, 連携新規でその日その担当者の伝票があれば最も若い番号を訂正に開く) {
+    for (const char16_t* No : {u"00000007", u"00000003"}) {
+        試験伝票 t;
+        t.事業所コード = u"002"_qs;  // the office is not tested
+        t.出金No = QString::fromUtf16(No);
+        t.出金日付 = u"20261115"_qs;
+        t.番号基準日付 = u"20270331"_qs;
+        t.担当者コード = u"00005"_qs;
+        ASSERT_TRUE(伝票投入(木, t));
+    }
+    ASSERT_EQ(起動処理.プログラム開始(u"00000000000000000002026111500005"_qs), 起動結果::稼動);
+    EXPECT_FALSE(s.新規情報フラグ);
+    EXPECT_FALSE(s.入力変更フラグ);
+    EXPECT_EQ(s.見出し.出金No, u"00000003"_qs);
+    EXPECT_EQ(s.見出し.事業所コード, u"002"_qs);
+    EXPECT_EQ(s.最終行, 1);
+}
+
+TEST_F(起動, 連携新規の零の日付は今日になる) {
+    ASSERT_EQ(起動処理.プログラム開始(u"00000000000000000000000000000005"_qs), 起動結果::稼動);
+    EXPECT_EQ(s.見出し.出金日付, u"20261122"_qs);
+    EXPECT_EQ(s.見出し.担当者コード, u"00005"_qs);
+}
+
+TEST_F(起動, 連携新規で担当者が退職済みなら今日の素の新規伝票で日付も捨てる) {
+    ASSERT_EQ(起動処理.プログラム開始(u"00100000000000000002026111500012"_qs), 起動結果::稼動);
+    EXPECT_TRUE(s.連携起動フラグ);
+    EXPECT_EQ(s.見出し.担当者コード, QString());
+    EXPECT_EQ(s.見出し.出金日付, u"20261115"_qs);  // a clear keeps the date it is on
 }
 
 TEST(二重起動検査, 同じ利用者と同じフォルダの二つ目だけが起動中と知る) {

@@ -144,6 +144,19 @@ TEST_P(データ層, 金額の列は四桁の小数まで正確に読める) {
     rs.閉じる();
 }
 
+TEST_P(データ層, 入れ子の外部結合の中と同名の列も名前で読める) {
+    ASSERT_TRUE(木->業務DB実行(
+        u"INSERT INTO T出金 (事業所コード, 番号基準日付, 出金No, 担当者コード, 部門コード) VALUES ('000', '20260331', '00000001', '00005', '777')"_qs));
+    記録集合 rs;
+    ASSERT_TRUE(環境.業務DB検索(
+        rs,
+        u"SELECT T出金.*, M担当者.氏名 AS 担当者名 FROM M部門 RIGHT JOIN (M担当者 INNER JOIN T出金 ON M担当者.コード = T出金.担当者コード) ON M部門.コード = T出金.部門コード"_qs));
+    EXPECT_EQ(rs.文字列(u"部門コード"_qs), u"777"_qs);
+    EXPECT_EQ(rs.文字列(u"事業所コード"_qs), u"000"_qs);
+    EXPECT_FALSE(rs.列あり(u"部門"_qs));
+    rs.閉じる();
+}
+
 KONPEKI_両エンジンで(データ層);
 
 }  // namespace
