@@ -134,9 +134,9 @@ void 紺碧帳起動::起動条件読込() {
 
     // The first stored slip of that day and staff is shown for correction, whatever its office.
     記録集合 rs;
-    const QString 文 = u"SELECT"_qs + 出金見出し列 + 出金見出し結合 + u" WHERE 出金日付 = '"_qs + h.出金日付 +
-                       u"'"_qs + u" AND 担当者コード = '"_qs + h.担当者コード + u"'"_qs +
-                       u" ORDER BY 出金No"_qs;
+    const QString 文 = u"SELECT"_qs + 出金見出し列 + 出金見出し結合 + u" WHERE 出金日付 = '"_qs +
+                       h.出金日付 + u"'"_qs + u" AND 担当者コード = '"_qs + h.担当者コード +
+                       u"'"_qs + u" ORDER BY 出金No"_qs;
     if (s.データ.業務DB検索(rs, 文)) {
         s.出金見出し読込(rs);
         s.出金明細読込();

@@ -1,6 +1,8 @@
 #include "dataenv/SQL方言変換.h"
 
 #include <QList>
+#include <QStringList>
+#include <algorithm>
 
 namespace {
 
@@ -127,6 +129,103 @@ struct 変換器 {
     }
 };
 
+// Position of the bracket that closes the one at i, or -1.
+qsizetype 閉じ括弧(const QString& s, qsizetype i) {
+    int 深さ = 0;
+    for (; i < s.size(); ++i) {
+        const QChar c = s.at(i);
+        if (c == u'\'' || c == u'"') {
+            i = 引用終端(s, i) - 1;
+        } else if (c == u'(') {
+            ++深さ;
+        } else if (c == u')' && --深さ == 0) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+// Position of the bracket that opens the one at i, or -1 (literals are not looked into).
+qsizetype 開き括弧(const QString& s, qsizetype i) {
+    int 深さ = 0;
+    for (; i >= 0; --i) {
+        if (s.at(i) == u')') ++深さ;
+        if (s.at(i) == u'(' && --深さ == 0) return i;
+    }
+    return -1;
+}
+
+qsizetype 語の外の位置(const QString& s, QStringView 語, qsizetype 開始) {
+    for (qsizetype i = 開始; i < s.size(); ++i) {
+        const QChar c = s.at(i);
+        if (c == u'\'' || c == u'"') {
+            i = 引用終端(s, i) - 1;
+        } else if (単語一致(s, i, 語)) {
+            return i;
+        }
+    }
+    return -1;
+}
+
+// One "A RIGHT JOIN B ON c" turned into "B LEFT JOIN A ON c"; false when none is left or the
+// form is not one this knows.
+bool 右結合を一つ返す(QString& s) {
+    static const QStringList 終わりの語 = {u"WHERE"_qs, u"ORDER"_qs, u"GROUP"_qs, u"HAVING"_qs,
+                                           u"UNION"_qs, u"LEFT"_qs,  u"RIGHT"_qs, u"INNER"_qs,
+                                           u"JOIN"_qs,  u"CROSS"_qs, u"FULL"_qs,  u"LIMIT"_qs};
+    for (qsizetype p = 語の外の位置(s, u"RIGHT", 0); p >= 0; p = 語の外の位置(s, u"RIGHT", p + 5)) {
+        const qsizetype 後 = 空白を飛ばす(s, p + 5);
+        if (!単語一致(s, 後, u"JOIN")) continue;
+        // the left operand: a name or a bracketed group
+        qsizetype 左終 = p;
+        while (左終 > 0 && s.at(左終 - 1).isSpace()) --左終;
+        qsizetype 左始 = 左終;
+        if (左終 > 0 && s.at(左終 - 1) == u')') {
+            左始 = 開き括弧(s, 左終 - 1);
+        } else {
+            while (左始 > 0 && (語の文字(s.at(左始 - 1)) || s.at(左始 - 1) == u'.')) --左始;
+        }
+        if (左始 < 0 || 左始 == 左終) return false;
+        // the right operand
+        const qsizetype 右始 = 空白を飛ばす(s, 後 + 4);
+        qsizetype 右終 = 右始;
+        if (右始 < s.size() && s.at(右始) == u'(') {
+            const qsizetype e = 閉じ括弧(s, 右始);
+            if (e < 0) return false;
+            右終 = e + 1;
+        } else {
+            while (右終 < s.size() && (語の文字(s.at(右終)) || s.at(右終) == u'.')) ++右終;
+        }
+        if (右終 == 右始) return false;
+        const qsizetype on = 空白を飛ばす(s, 右終);
+        if (!単語一致(s, on, u"ON")) return false;
+        // the condition runs to the end of its group or the next clause
+        const qsizetype 条件始 = 空白を飛ばす(s, on + 2);
+        qsizetype 条件終 = 条件始;
+        int 深さ = 0;
+        for (; 条件終 < s.size(); ++条件終) {
+            const QChar c = s.at(条件終);
+            if (c == u'\'' || c == u'"') {
+                条件終 = 引用終端(s, 条件終) - 1;
+                continue;
+            }
+            if (c == u'(') ++深さ;
+            if (c == u')' && --深さ < 0) break;
+            if (深さ == 0 &&
+                std::any_of(終わりの語.begin(), 終わりの語.end(),
+                            [&](const QString& w) { return 単語一致(s, 条件終, w); })) {
+                break;
+            }
+        }
+        while (条件終 > 条件始 && s.at(条件終 - 1).isSpace()) --条件終;
+        const QString 置換 = s.mid(右始, 右終 - 右始) + u" LEFT JOIN "_qs +
+                             s.mid(左始, 左終 - 左始) + u" ON "_qs + s.mid(条件始, 条件終 - 条件始);
+        s.replace(左始, 条件終 - 左始, 置換);
+        return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 QString SQL方言変換(const QString& 文, SQL方言 方言) {
@@ -135,11 +234,19 @@ QString SQL方言変換(const QString& 文, SQL方言 方言) {
     const bool 書換候補 =
         文.contains(u"TOP"_qs, Qt::CaseInsensitive) ||
         (方言 == SQL方言::SQLite
-             ? 文.contains(u"LEFT"_qs, Qt::CaseInsensitive)
+             ? 文.contains(u"LEFT"_qs, Qt::CaseInsensitive) ||
+                   文.contains(u"RIGHT"_qs, Qt::CaseInsensitive)
              : 文.contains(u'[') || 文.contains(u"nvarchar"_qs, Qt::CaseInsensitive));
     if (!書換候補) return 文;
+    QString 元 = 文;
+    if (方言 == SQL方言::SQLite) {
+        // SQLite answers a nested RIGHT JOIN by reading the whole table on the right; the same
+        // join written from the other side lets it use the indexes.
+        for (int i = 0; i < 32 && 右結合を一つ返す(元); ++i) {
+        }
+    }
     // A stray closing bracket at the top level is copied as it is, so that a broken statement
     // still reaches the engine and fails there.
-    変換器 v{文, 方言};
+    変換器 v{元, 方言};
     return v.一段(false);
 }

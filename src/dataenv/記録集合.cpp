@@ -27,8 +27,7 @@ int 記録集合::列番号(const QString& 列名) const {
     for (int j = 0; j < 列一覧.count(); ++j) {
         const QString 名 = 列一覧.fieldName(j);
         const qsizetype 区切り = 名.lastIndexOf(u':');
-        if (区切り > 0 && 名.size() > 区切り + 1 &&
-            名.mid(区切り + 1).toUInt() > 0 &&
+        if (区切り > 0 && 名.size() > 区切り + 1 && 名.mid(区切り + 1).toUInt() > 0 &&
             QStringView(名).left(区切り).compare(列名, Qt::CaseInsensitive) == 0) {
             return j;
         }

@@ -53,18 +53,9 @@ bool 行あり(const 番号環境& 環境, const QString& 文) {
     return 有;
 }
 
-// The 番号ID of the A番号情報 row the statement finds, or nothing.
-std::optional<QString> 番号ID読込(const 番号環境& 環境, const QString& 文) {
-    記録集合 rs;
-    std::optional<QString> 結果;
-    if (環境.検索(rs, 文)) 結果 = rs.文字列(u"番号ID"_qs);
-    rs.閉じる();
-    return 結果;
-}
-
-// The counter column of the row the statement finds. Each result is closed before anything is
-// written, so that no reader holds an old snapshot of the file while the counter moves.
-std::optional<QString> 計数読込(const 番号環境& 環境, const QString& 文, const QString& 列) {
+// One column of the row the statement finds, or nothing. Each result is closed before anything
+// is written, so that no reader holds an old snapshot of the file while a counter moves.
+std::optional<QString> 列読込(const 番号環境& 環境, const QString& 文, const QString& 列) {
     記録集合 rs;
     std::optional<QString> 結果;
     if (環境.検索(rs, 文)) 結果 = rs.文字列(列);
@@ -114,23 +105,23 @@ QString 次番号手続(const 番号環境& 環境, bool 事業所別, 採番種
         QString 表, 条件;
         if (期日別 && 事業所別) {
             事業所別期日別番号行確保(環境, 番号ID, 基準日付, 事業所コード);
-            計数 = 計数読込(環境, 事業所別期日別読込文(番号ID, 基準日付, 事業所コード), 列);
+            計数 = 列読込(環境, 事業所別期日別読込文(番号ID, 基準日付, 事業所コード), 列);
             表 = u"A事業所別期日別番号情報"_qs;
             条件 = u"A事業所別期日別番号情報.事業所コード = '"_qs + 事業所コード +
                    u"' AND A事業所別期日別番号情報.番号ID = '"_qs + 番号ID +
                    u"' AND A事業所別期日別番号情報.期日 = '"_qs + 基準日付 + u"'"_qs;
         } else if (期日別) {
             期日別番号行確保(環境, 番号ID, 基準日付);
-            計数 = 計数読込(環境, 期日別読込文(番号ID, 基準日付), 列);
+            計数 = 列読込(環境, 期日別読込文(番号ID, 基準日付), 列);
             表 = u"A期日別番号情報"_qs;
             条件 = u"A期日別番号情報.番号ID = '"_qs + 番号ID +
                    u"' AND A期日別番号情報.期日 = '"_qs + 基準日付 + u"'"_qs;
         } else if (事業所別) {
             事業所別番号行確保(環境, 番号ID, 事業所コード);
-            計数 = 計数読込(環境,
-                            種別 == 採番種別::参照 ? 事業所別参照読込文(番号ID, 事業所コード)
-                                                   : 事業所別読込文(番号ID, 事業所コード),
-                            列);
+            計数 = 列読込(環境,
+                          種別 == 採番種別::参照 ? 事業所別参照読込文(番号ID, 事業所コード)
+                                                 : 事業所別読込文(番号ID, 事業所コード),
+                          列);
             表 = u"A事業所別番号情報"_qs;
             条件 = u"A事業所別番号情報.事業所コード = '"_qs + 事業所コード +
                    u"' AND A事業所別番号情報.番号ID = '"_qs + 番号ID + u"'"_qs;
@@ -265,7 +256,7 @@ QString 事業所別次履歴番号採番(const 番号環境& 環境, const QStr
 
 void 期日別番号行確保(const 番号環境& 環境, const QString& 番号ID, const QString& 期日) {
     if (行あり(環境, 期日別読込文(番号ID, 期日))) return;
-    const auto ID = 番号ID読込(環境, 番号情報読込文(番号ID));
+    const auto ID = 列読込(環境, 番号情報読込文(番号ID), u"番号ID"_qs);
     if (!ID) return;
     環境.実行(u"INSERT INTO [A期日別番号情報] "_qs + u"([番号ID]"_qs + u",[期日]"_qs +
               u",[連番]"_qs + u",[履歴連番])"_qs + u" VALUES "_qs + u"('"_qs + *ID + u"'"_qs +
@@ -274,7 +265,7 @@ void 期日別番号行確保(const 番号環境& 環境, const QString& 番号I
 
 void 事業所別番号行確保(const 番号環境& 環境, const QString& 番号ID, const QString& 事業所コード) {
     if (行あり(環境, 事業所別読込文(番号ID, 事業所コード))) return;
-    const auto ID = 番号ID読込(環境, 番号情報読込文(番号ID));
+    const auto ID = 列読込(環境, 番号情報読込文(番号ID), u"番号ID"_qs);
     if (!ID) return;
     環境.実行(u"INSERT INTO [A事業所別番号情報] "_qs + u"([事業所コード]"_qs + u",[番号ID]"_qs +
               u",[連番]"_qs + u",[履歴連番])"_qs + u" VALUES "_qs + u"('"_qs + 事業所コード +
@@ -286,9 +277,10 @@ void 事業所別期日別番号行確保(const 番号環境& 環境, const QStr
     if (行あり(環境, 事業所別期日別読込文(番号ID, 期日, 事業所コード))) return;
     // The condition names A事業所別番号情報, which the statement does not read: the read fails
     // and no row is ever made here.
-    const auto ID =
-        番号ID読込(環境, u"SELECT A番号情報.*"_qs + u" FROM A番号情報"_qs +
-                             u" WHERE A事業所別番号情報.番号ID = '"_qs + 番号ID + u"'"_qs);
+    const auto ID = 列読込(環境,
+                           u"SELECT A番号情報.*"_qs + u" FROM A番号情報"_qs +
+                               u" WHERE A事業所別番号情報.番号ID = '"_qs + 番号ID + u"'"_qs,
+                           u"番号ID"_qs);
     if (!ID) return;
     環境.実行(u"INSERT INTO [A事業所別期日別番号情報] "_qs + u"([事業所コード]"_qs +
               u",[番号ID]"_qs + u",[期日]"_qs + u",[連番]"_qs + u",[履歴連番])"_qs +

@@ -93,14 +93,15 @@ inline constexpr int 表示行数 = 5;
 extern const QStringList T出金列;
 extern const QStringList T出金明細列;
 
-// The columns (behind SELECT) and joins of the header read: staff joined inner, department and section outer.
+// The columns (behind SELECT) and joins of the header read: staff joined inner, department and
+// section outer.
 extern const QString 出金見出し列;
 extern const QString 出金見出し結合;
 
 // The one session of a run: the data environment, the slip in memory and the flags that steer
 // the screen. A test makes a fresh one for each case.
 class 出金セッション {
-public:
+  public:
     explicit 出金セッション(プラットフォーム& 基盤) : データ(基盤) {}
 
     データ環境 データ;
@@ -167,7 +168,7 @@ public:
     // Whether a schedule activity refers to the stored slip; asked before its number moves.
     std::function<bool()> 日程連携確認 = [] { return false; };
 
-private:
+  private:
     QString 隣接文(bool 前) const;
     bool 隣接読込(bool 前);
 

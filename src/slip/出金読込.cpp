@@ -38,7 +38,7 @@ void 行を写す(const 記録集合& rs, 出金行& r) {
 }
 
 明細税額 税額欄(const 出金行& r) {
-    return {r.内税外税区分, r.消費税率, r.出金金額, r.出金消費税,
+    return {r.内税外税区分, r.消費税率,     r.出金金額,    r.出金消費税,
             r.実質出金金額, r.税抜出金金額, r.税込出金金額};
 }
 
@@ -66,17 +66,21 @@ bool 出金セッション::出金キー検索(const QString& 事業所コード
     閲覧.伝票No = 出金No;
     閲覧記録(データ, 閲覧);
 
-    const QString 文 = u"SELECT TOP 1"_qs + 出金見出し列 + 出金見出し結合 + u" WHERE T出金.出金No = '"_qs + 出金No + u"'"_qs +
+    const QString 文 = u"SELECT TOP 1"_qs + 出金見出し列 + 出金見出し結合 +
+                       u" WHERE T出金.出金No = '"_qs + 出金No + u"'"_qs +
                        u" AND T出金.事業所コード = '"_qs + 事業所コード + u"'"_qs +
                        u" AND T出金.番号基準日付 = '"_qs + 番号基準日付 + u"'"_qs;
     return データ.業務DB検索(見出し結果, 文, true);
 }
 
-void 出金セッション::出金見出し読込() { 出金見出し読込(見出し結果); }
+void 出金セッション::出金見出し読込() {
+    出金見出し読込(見出し結果);
+}
 
 void 出金セッション::出金見出し読込(記録集合& rs) {
     出金見出し& h = 見出し;
-    if (!rs.Null(u"事業所コード"_qs)) h.事業所コード = h.保持事業所コード = rs.文字列(u"事業所コード"_qs);
+    if (!rs.Null(u"事業所コード"_qs))
+        h.事業所コード = h.保持事業所コード = rs.文字列(u"事業所コード"_qs);
     if (!rs.Null(u"出金No"_qs)) h.出金No = h.保持出金No = rs.文字列(u"出金No"_qs);
     if (!rs.Null(u"出金日付"_qs)) {
         h.出金日付 = rs.文字列(u"出金日付"_qs);
@@ -170,8 +174,8 @@ bool 出金セッション::出金No確定(const QString& 入力No) {
     入力変更フラグ = true;
     QString 文言;
     if (入力No.isEmpty()) {
-        見出し.出金No =
-            次番号参照(データ, 番号定数::出金番号ID.toString(), 見出し.番号基準日付, 見出し.事業所コード);
+        見出し.出金No = 次番号参照(データ, 番号定数::出金番号ID.toString(), 見出し.番号基準日付,
+                                   見出し.事業所コード);
     } else {
         QString 事業所 = 見出し.事業所コード;
         QString 基準日付 = 見出し.番号基準日付;
@@ -203,9 +207,9 @@ QString 出金セッション::隣接文(bool 前) const {
                  u" WHERE 事業所コード = '"_qs + h.事業所コード + u"'"_qs;
     if (前) {
         文 += h.出金No.isEmpty()
-                 ? u" AND 出金日付 <= '"_qs + h.出金日付 + u"'"_qs
-                 : u" AND ((出金日付 = '"_qs + h.出金日付 + u"' AND 出金No < '"_qs + h.出金No +
-                       u"')"_qs + u" OR 出金日付 < '"_qs + h.出金日付 + u"')"_qs;
+                  ? u" AND 出金日付 <= '"_qs + h.出金日付 + u"'"_qs
+                  : u" AND ((出金日付 = '"_qs + h.出金日付 + u"' AND 出金No < '"_qs + h.出金No +
+                        u"')"_qs + u" OR 出金日付 < '"_qs + h.出金日付 + u"')"_qs;
         文 += u" ORDER BY 出金日付 DESC, 出金No DESC"_qs;
     } else if (h.出金No.isEmpty()) {
         文 += u" AND 出金日付 >= '"_qs + h.出金日付 + u"'"_qs + u" ORDER BY 出金日付, 出金No"_qs;
@@ -231,8 +235,12 @@ bool 出金セッション::次No確認() {
     return あり;
 }
 
-bool 出金セッション::前No読込() { return 隣接読込(true); }
-bool 出金セッション::次No読込() { return 隣接読込(false); }
+bool 出金セッション::前No読込() {
+    return 隣接読込(true);
+}
+bool 出金セッション::次No読込() {
+    return 隣接読込(false);
+}
 
 bool 出金セッション::隣接読込(bool 前) {
     記録集合 rs;
@@ -256,8 +264,8 @@ bool 出金セッション::隣接読込(bool 前) {
 
 bool 出金セッション::過去明細取込(const QString& 鍵, int 位置) {
     記録集合 rs;
-    const QString 文 = 明細文 + 明細結合 + u" WHERE 事業所コード = '"_qs + 鍵.mid(0, 3) +
-                       u"'"_qs + u" AND 番号基準日付 = '"_qs + 鍵.mid(3, 8) + u"'"_qs +
+    const QString 文 = 明細文 + 明細結合 + u" WHERE 事業所コード = '"_qs + 鍵.mid(0, 3) + u"'"_qs +
+                       u" AND 番号基準日付 = '"_qs + 鍵.mid(3, 8) + u"'"_qs +
                        u" AND 出金No = '"_qs + 鍵.mid(11, 8) + u"'"_qs +
                        u" AND 出金固有行No = '"_qs + 鍵.mid(19, 3) + u"'"_qs;
     const bool あり = データ.業務DB検索(rs, 文);

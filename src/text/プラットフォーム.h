@@ -40,5 +40,9 @@ class プラットフォーム {
                                 const QString& 作業フォルダ) = 0;
 
     // A plain box with an OK button, the form most messages of the program take.
-    応答 メッセージ(const QString& 本文) { return メッセージ表示({本文}); }
+    応答 メッセージ(const QString& 本文) {
+        メッセージ指定 指定;
+        指定.本文 = 本文;
+        return メッセージ表示(指定);
+    }
 };

@@ -79,6 +79,34 @@ TEST(SQL方言変換, 語の一部のTOPやLEFTは書き換えない) {
     EXPECT_EQ(変換(文, SQL方言::SQLite), 文);
 }
 
+TEST(SQL方言変換, SQLiteでは右外部結合を左外部結合に書き直す) {
+    EXPECT_EQ(
+        変換(
+            u"SELECT T出金.* FROM Mセクション RIGHT JOIN (M部門 RIGHT JOIN (M担当者 INNER JOIN T出金 ON M担当者.コード = T出金.担当者コード) ON M部門.コード = T出金.部門コード) ON Mセクション.コード = T出金.セクションコード WHERE T出金.出金No = '1'"_qs,
+            SQL方言::SQLite),
+        u"SELECT T出金.* FROM ((M担当者 INNER JOIN T出金 ON M担当者.コード = T出金.担当者コード) LEFT JOIN M部門 ON M部門.コード = T出金.部門コード) LEFT JOIN Mセクション ON Mセクション.コード = T出金.セクションコード WHERE T出金.出金No = '1'"_qs);
+}
+
+TEST(SQL方言変換, 右外部結合の条件は次の句や結合で終わる) {
+    EXPECT_EQ(変換(u"SELECT * FROM A RIGHT JOIN B ON A.x = B.x ORDER BY B.x"_qs, SQL方言::SQLite),
+              u"SELECT * FROM B LEFT JOIN A ON A.x = B.x ORDER BY B.x"_qs);
+    EXPECT_EQ(
+        変換(
+            u"SELECT * FROM A RIGHT JOIN B ON (A.x = B.x AND A.y = 'RIGHT JOIN') INNER JOIN C ON C.x = B.x"_qs,
+            SQL方言::SQLite),
+        u"SELECT * FROM B LEFT JOIN A ON (A.x = B.x AND A.y = 'RIGHT JOIN') INNER JOIN C ON C.x = B.x"_qs);
+}
+
+TEST(SQL方言変換, PostgreSQLでは右外部結合をそのまま渡す) {
+    const QString 文 = u"SELECT * FROM A RIGHT JOIN B ON A.x = B.x"_qs;
+    EXPECT_EQ(変換(文, SQL方言::PostgreSQL), 文);
+}
+
+TEST(SQL方言変換, 形の分からない右外部結合は触らない) {
+    const QString 文 = u"SELECT * FROM A RIGHT JOIN B USING (x)"_qs;
+    EXPECT_EQ(変換(文, SQL方言::SQLite), 文);
+}
+
 TEST(SQL方言変換, そのままの方言では何も変えない) {
     const QString 文 = u"SELECT TOP 1 [a] FROM t"_qs;
     EXPECT_EQ(変換(文, SQL方言::そのまま), 文);

@@ -220,6 +220,29 @@ TEST_F(接続開始, 利用者の写しが既にあれば写し直さない) {
     EXPECT_TRUE(基盤.お待ち履歴.isEmpty());  // no report copy without a shared report file
 }
 
+TEST_F(接続開始, 利用者のフォルダが作れなければ履歴に残し箱を出して偽) {
+    ASSERT_TRUE(木.環境DB実行(u"UPDATE 動作環境定義 SET インストール区分 = 1"_qs));
+    QDir(木.根() + u"/users"_qs).removeRecursively();
+    QFile 邪魔(木.根() + u"/users"_qs);  // a file where the users folder should be
+    ASSERT_TRUE(邪魔.open(QIODevice::WriteOnly));
+    邪魔.close();
+    環境.自身のフォルダ = 木.プログラムフォルダ();
+    EXPECT_FALSE(環境.SYB_OPEN());
+    const QStringList 文言 = 基盤.表示文言();
+    ASSERT_EQ(文言.size(), 2);
+    EXPECT_TRUE(文言[0].startsWith(u"DIREXISTCHK ERROR"_qs));
+    EXPECT_TRUE(文言[1].startsWith(u"SYB_OPEN ERROR"_qs));
+}
+
+TEST_F(接続開始, DB_CLOSEOPENが開けなければ黙って偽) {
+    環境.自身のフォルダ = 木.プログラムフォルダ();
+    ASSERT_TRUE(環境.SYB_OPEN());
+    QFile::remove(木.環境DB());
+    EXPECT_FALSE(環境.DB_CLOSEOPEN());
+    EXPECT_FALSE(環境.環境DB接続中);
+    EXPECT_TRUE(基盤.表示済み.isEmpty());
+}
+
 TEST_F(接続開始, 区分が0でも1でもなければフォルダは空で二度目が開かず箱が出る) {
     ASSERT_TRUE(木.環境DB実行(u"UPDATE 動作環境定義 SET インストール区分 = 2"_qs));
     環境.自身のフォルダ = 木.プログラムフォルダ();

@@ -7,7 +7,7 @@
 // A session on the sample tree, opened and initialised as at the program's start, on both
 // engines.
 class 出金試験 : public エンジン別試験 {
-protected:
+  protected:
     void SetUp() override {
         エンジン別試験::SetUp();
         if (IsSkipped() || HasFatalFailure()) return;

@@ -5,7 +5,7 @@
 namespace {
 
 class 出金読込 : public 出金試験 {
-protected:
+  protected:
     bool 読込(const QString& No, const QString& 基準日付 = u"20260331"_qs) {
         if (!s.出金キー検索(u"000"_qs, 基準日付, No)) {
             s.出金検索破棄();
@@ -162,7 +162,9 @@ TEST_P(出金読込, 見つかった番号は未保存の変更があっても�
 
 TEST_P(出金読込, 一覧の二十文字の鍵は事業所と基準日付を与え使った後は空になる) {
     投入(u"00000005"_qs, u"20251118"_qs, 1, u"20250331"_qs);
-    s.一覧条件文字列 = u"C00020250331" "00000005"_qs;
+    s.一覧条件文字列 =
+        u"C00020250331"
+        "00000005"_qs;
     EXPECT_TRUE(s.出金No確定(u"00000005"_qs));
     EXPECT_EQ(s.見出し.番号基準日付, u"20250331"_qs);
     EXPECT_EQ(s.最終行, 0);
@@ -247,9 +249,14 @@ TEST_P(出金読込, 過去明細は型として写り今日の税率で計算�
     t.番号基準日付 = u"20180331"_qs;
     t.行数 = 2;
     ASSERT_TRUE(伝票投入(*木, t));
-    ASSERT_TRUE(木->業務DB実行(u"UPDATE T出金明細 SET 消費税率 = 8, 出金消費税 = 160 WHERE 出金No = '00000008' AND 出金固有行No = '002'"_qs));
+    ASSERT_TRUE(木->業務DB実行(
+        u"UPDATE T出金明細 SET 消費税率 = 8, 出金消費税 = 160 WHERE 出金No = '00000008' AND 出金固有行No = '002'"_qs));
     s.最終行 = 0;
-    ASSERT_TRUE(s.過去明細取込(u"00020180331" "00000008" "002"_qs, 0));
+    ASSERT_TRUE(
+        s.過去明細取込(u"00020180331"
+                       "00000008"
+                       "002"_qs,
+                       0));
     const auto& r = s.行[0];
     EXPECT_EQ(r.摘要, u"摘要002"_qs);
     EXPECT_EQ(r.支払先, u"支払先002"_qs);
@@ -258,7 +265,11 @@ TEST_P(出金読込, 過去明細は型として写り今日の税率で計算�
     EXPECT_EQ(r.消費税率, 金額::円(10));
     EXPECT_EQ(r.出金消費税, 金額::円(200));  // class 1 adds the rate on top
     EXPECT_EQ(s.合計.出金金額合計, 金額::円(2000));
-    EXPECT_FALSE(s.過去明細取込(u"00020180331" "00000008" "009"_qs, 1));
+    EXPECT_FALSE(
+        s.過去明細取込(u"00020180331"
+                       "00000008"
+                       "009"_qs,
+                       1));
 }
 
 KONPEKI_両エンジンで(出金読込);
