@@ -26,5 +26,6 @@ int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     起動時間計測();
     データ層計測();
+    伝票計測();
     return 0;
 }
