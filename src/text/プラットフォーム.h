@@ -33,6 +33,10 @@ class プラットフォーム {
     virtual 応答 メッセージ表示(const メッセージ指定& 指定) = 0;
     virtual QDateTime 現在時刻() const = 0;
     virtual void 保留イベント処理() = 0;
+    // Another window of the program by its name (a list window, a dialogue), modal or not, and
+    // the enabling of a window as a whole.
+    virtual void 画面表示(const QString& 画面名, bool モーダル) = 0;
+    virtual void 画面使用可否(const QString& 画面名, bool 可) = 0;
     // The modeless "please wait" window, shown while files are copied or a slip is stored.
     virtual void お待ち表示(bool 表示) = 0;
     virtual bool 文書を開く(const QString& パス, const QString& 作業フォルダ) = 0;

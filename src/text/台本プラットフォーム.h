@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QList>
+#include <QPair>
 #include <QQueue>
+#include <functional>
 
 #include "text/プラットフォーム.h"
 
@@ -20,12 +22,21 @@ class 台本プラットフォーム : public プラットフォーム {
     QStringList 開いた文書;
     QDateTime 時刻 = QDateTime(QDate(2026, 4, 1), QTime(9, 0, 0));
     int イベント処理回数 = 0;
-    QList<bool> お待ち履歴;  // each show (true) and hide (false) of the waiting window
+    QList<bool> お待ち履歴;
+    QList<QPair<QString, bool>> 表示画面;   // every window shown, with its modality
+    QList<QPair<QString, bool>> 使用可否;   // every enabling or disabling of a window
+    // What a modal window does while it is up: the test plays the operator there.
+    std::function<void(const QString&)> 画面表示時;  // each show (true) and hide (false) of the waiting window
 
     応答 メッセージ表示(const メッセージ指定& 指定) override;
     QDateTime 現在時刻() const override { return 時刻; }
     void 保留イベント処理() override { ++イベント処理回数; }
     void お待ち表示(bool 表示) override { お待ち履歴.append(表示); }
+    void 画面表示(const QString& 画面名, bool モーダル) override {
+        表示画面.append({画面名, モーダル});
+        if (画面表示時) 画面表示時(画面名);
+    }
+    void 画面使用可否(const QString& 画面名, bool 可) override { 使用可否.append({画面名, 可}); }
     bool 文書を開く(const QString& パス, const QString& 作業フォルダ) override;
     bool プログラム起動(const QString& プログラム, const QStringList& 引数,
                         const QString& 作業フォルダ) override;

@@ -107,3 +107,13 @@ bool Qtプラットフォーム::プログラム起動(const QString& プログ�
                                         const QString& 作業フォルダ) {
     return QProcess::startDetached(プログラム, 引数, 作業フォルダ);
 }
+
+void Qtプラットフォーム::画面表示(const QString& 画面名, bool) {
+    // The list windows and dialogues are drawn as they are built; until then the operator is
+    // told that the window is not available.
+    メッセージ(画面名 + u" は準備中です。"_qs);
+}
+
+void Qtプラットフォーム::画面使用可否(const QString&, bool) {
+    // Nothing to enable or disable while the list windows themselves are not drawn.
+}

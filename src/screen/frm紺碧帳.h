@@ -1,0 +1,94 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+#include "screen/画面モデル.h"
+#include "slip/出金セッション.h"
+
+// The entry screen of the slip: every control by the name it has on the form, and the event
+// routines behind them. The Qt window only draws this model and forwards what the operator does.
+class frm紺碧帳 {
+public:
+    explicit frm紺碧帳(出金セッション& セッション);
+
+    出金セッション& s;
+    画面モデル 画面{u"frm紺碧帳"_qs};
+
+    // Hand-over values between the events, the guard and the list windows.
+    部品* 入力中項目 = nullptr;
+    部品* 離脱項目 = nullptr;
+    部品* 先頭入力項目 = nullptr;
+    部品* 一覧設定先項目 = nullptr;
+    部品* 一覧設定先名称項目 = nullptr;
+    bool 費目区分不正 = false;  // the last expense class typed was not a class
+    bool 画面使用中 = false;    // a modal window of this screen is up
+
+    // Asked when Tab leaves the last remark after a change; the register flow answers it.
+    std::function<void()> 登録処理;
+
+    // The screen's load step: lay out, fill the lists, load or clear the slip, display.
+    void 画面読込(const std::function<void()>& 伝票読込);
+
+    // Layout, display and focus.
+    void 画面初期配置();
+    void 画面全表示();
+    void 見出し表示();
+    void 明細表示();
+    void 合計表示();
+    void スクロール更新();
+    void 詳細初期化();
+    void フォーカス設定(部品& 対象);
+    bool 入力順序確認(int 区分, int 行, const QString& 項目名, int 序数);
+    void ボタン状態更新();
+    bool 必須項目確認(int& 区分, int& 行, int& 序数);
+    bool 必須項目案内();
+    int 見出し空き() const;           // ordinal of the header's first empty required item
+    int 明細空き(int 明細) const;     // 1 when the line has no expense class
+    部品& 見出し項目(int 序数);       // the header item of an ordinal
+    QString 報告用お知らせ() const;   // what the notice panel shows
+
+    // Header fields.
+    bool 出金日付更新(int 部分, const QString& 文字列);  // 0 year, 1 month, 2 day
+    bool 担当者確定(const QString& コード);
+    bool 部門確定(const QString& コード);
+    bool セクション確定(const QString& コード);
+    bool 備考確定(int 備考, const QString& 文字列);  // 0 A, 1 B
+    void 一覧を開く(const QString& 項目名);
+
+    // Line grid.
+    bool 費目区分確定(int 行, int 区分);
+    bool 内税外税区分確定(int 行, int 区分);
+    bool 消費税率確定(int 行, const 金額& 率);
+    bool 出金金額確定(int 行, const 金額& 額);
+    bool 出金消費税確定(int 行, const 金額& 税);
+    bool 支払先確定(int 行, const QString& 文字列);
+    bool 課税事業所区分確定(int 行, int 値);
+    bool 摘要確定(int 行, const QString& 文字列);
+    void 明細行表示(int 明細, int 行);
+    void 行クリア();
+    void 行挿入();
+    void 行複写();
+    void 摘要一覧(int 行);
+
+private:
+    void 部品を作る();
+    void 事象を結ぶ();
+    void 一覧を埋める();
+    void 見出し離脱(部品& p);
+    void 明細離脱(部品& p);
+    void 行を写す(int 元, int 先);
+    void ヘッド終了取得();
+    void 頁1終了取得(int 行);
+    void テイル終了取得();
+    void 詳細頁変更();
+    void スクロール変更();
+    void 名前で移す(const QString& 名前, int 行 = -1);
+
+    template <class F>
+    void 表示中(F&& 書く) {
+        s.画面表示中フラグ = true;
+        書く();
+        s.画面表示中フラグ = false;
+    }
+};

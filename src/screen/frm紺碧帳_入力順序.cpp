@@ -1,0 +1,212 @@
+#include "screen/frm紺碧帳.h"
+
+namespace {
+
+const char16_t* const 見出し必須[] = {u"出金日付年", u"出金日付月", u"出金日付日", u"出金No",
+                                     u"担当者コード", u"部門コード", u"セクションコード"};
+
+// Items a detail row can be given the focus by name.
+const QStringList 明細名指し = {u"費目区分"_qs, u"費目区分名称"_qs, u"内税外税区分"_qs,
+                               u"出金金額"_qs, u"出金消費税"_qs,   u"摘要"_qs};
+
+}  // namespace
+
+int frm紺碧帳::見出し空き() const {
+    const auto& h = s.見出し;
+    const QString* 値[] = {&h.出金日付年, &h.出金日付月,      &h.出金日付日, &h.出金No,
+                          &h.担当者コード, &h.部門コード, &h.セクションコード};
+    for (int i = 0; i < 7; ++i) {
+        if (値[i]->trimmed().isEmpty()) return i + 1;
+    }
+    return 0;
+}
+
+int frm紺碧帳::明細空き(int 明細) const { return s.行[明細].費目区分 == 0 ? 1 : 0; }
+
+部品& frm紺碧帳::見出し項目(int 序数) {
+    return 画面(QString::fromUtf16(見出し必須[qBound(1, 序数, 7) - 1]));
+}
+
+void frm紺碧帳::名前で移す(const QString& 名前, int 行) {
+    if (部品* p = 画面.探す(名前, 行)) 画面.SetFocus(*p);
+}
+
+bool frm紺碧帳::入力順序確認(int 区分, int 行, const QString& 項目名, int 序数) {
+    bool 結果 = false;
+    const int 空き = 見出し空き();
+    auto 行を当てる = [this](int r) {
+        const int 明細 = r + s.先頭行;
+        if (明細 <= s.最終行 + 1) {
+            s.表示行 = r;
+            s.現在行 = 明細;
+            if (s.行[明細].費目区分 != 0 && 明細 > s.最終行) s.最終行 = 明細;
+        }
+        スクロール更新();
+    };
+    if (区分 == 1) {
+        if (空き != 0 && 序数 > 空き) {
+            画面.SetFocus(見出し項目(空き));
+            結果 = true;
+        } else {
+            // The name fields take no Tab stop and pass the focus on.
+            QString 先 = 項目名;
+            const QString 元 = 離脱項目 ? 離脱項目->名前 : QString();
+            if (項目名 == u"担当者名" && 元 != u"担当者コード") 先 = u"担当者コード"_qs;
+            if (項目名 == u"部門名") 先 = 元 != u"部門コード" ? u"部門コード"_qs : u"セクションコード"_qs;
+            if (項目名 == u"セクション名" && 元 != u"セクションコード") 先 = u"セクションコード"_qs;
+            if (!入力中項目 || 先 != 入力中項目->名前) 名前で移す(先);
+        }
+    } else if (区分 == 2) {
+        if (空き != 0) {
+            画面.SetFocus(見出し項目(空き));
+            結果 = true;
+        } else {
+            行を当てる(行);
+            if (行 + s.先頭行 > s.最終行 + 1) {
+                画面.SetFocus(画面(u"費目区分"_qs, s.最終行 + 1 - s.先頭行));
+                結果 = true;
+            } else {
+                const int g = 明細空き(行 + s.先頭行);
+                if (g == 0 || 序数 <= g) {
+                    const bool 同じ = 入力中項目 && 入力中項目->名前 == 項目名 && 入力中項目->添字 == 行;
+                    if (!項目名.isEmpty() && !同じ && 明細名指し.contains(項目名)) 名前で移す(項目名, 行);
+                } else {
+                    画面.SetFocus(画面(u"費目区分"_qs, 行));
+                    結果 = true;
+                }
+            }
+        }
+    } else if (区分 == 3) {
+        if (空き != 0) {
+            画面.SetFocus(見出し項目(空き));
+            結果 = true;
+        } else {
+            行を当てる(s.表示行);
+            if (s.表示行 == 0 && 明細空き(s.先頭行) == 1) {
+                画面.SetFocus(画面(u"費目区分"_qs, 0));
+                結果 = true;
+            }
+        }
+    }
+    ボタン状態更新();
+    return 結果;
+}
+
+bool frm紺碧帳::必須項目確認(int& 区分, int& 行, int& 序数) {
+    if (const int g = 見出し空き(); g != 0) {
+        区分 = 1;
+        行 = -1;
+        序数 = g;
+        return false;
+    }
+    for (int n = 0; n <= s.最終行; ++n) {
+        if (明細空き(n) != 0) {
+            区分 = 2;
+            行 = n;
+            序数 = 1;
+            return false;
+        }
+    }
+    区分 = 3;
+    行 = -1;
+    序数 = 0;
+    return true;
+}
+
+bool frm紺碧帳::必須項目案内() {
+    int 区分 = 0, 行 = 0, 序数 = 0;
+    if (必須項目確認(区分, 行, 序数)) return true;
+    画面(u"お知らせ"_qs).Caption = u"必須項目が未入力です。"_qs;
+    if (区分 == 1) {
+        画面.SetFocus(見出し項目(序数));
+    } else if (区分 == 2) {
+        s.現在行 = 行;
+        s.表示行 = 行 % 表示行数;
+        s.先頭行 = 行 - s.表示行;
+        スクロール更新();
+        明細表示();
+        画面.SetFocus(画面(u"費目区分"_qs, s.表示行));
+    }
+    return false;
+}
+
+void frm紺碧帳::ボタン状態更新() {
+    const int r = s.表示行;
+    const bool 区分空白 = 画面(u"費目区分"_qs, r).Text.trimmed().isEmpty() ||
+                         画面(u"費目区分"_qs, r).Text.trimmed().toInt() == 0;
+    画面(u"btn_行クリア"_qs).Enabled = s.最終行 >= 0;
+    画面(u"btn_行挿入"_qs).Enabled =
+        s.最終行 >= 0 && s.最終行 <= 13 && s.現在行 <= s.最終行 && !区分空白;
+    画面(u"btn_行複写"_qs).Enabled = 区分空白 && s.最終行 >= 0 && s.現在行 >= 1;
+    const bool 担当者あり = !s.見出し.担当者コード.trimmed().isEmpty();
+    画面(u"btn_部門コード"_qs).Enabled = 担当者あり;
+    画面(u"btn_セクションコード"_qs).Enabled = 担当者あり;
+    画面(u"tab_詳細"_qs).Enabled = 見出し空き() == 0;
+    int 区分 = 0, 行 = 0, 序数 = 0;
+    画面(u"btn_登録"_qs).Enabled = 必須項目確認(区分, 行, 序数) && s.最終行 >= 0 && s.入力変更フラグ;
+    const bool 保存済み = !s.新規情報フラグ;
+    for (const char16_t* 名 : {u"btn_削除", u"btn_印刷", u"btn_プレビュ", u"btn_帳票イメージ出力"}) {
+        画面(QString::fromUtf16(名)).Enabled = 保存済み;
+    }
+}
+
+void frm紺碧帳::ヘッド終了取得() {
+    if (const int g = 見出し空き(); g != 0) {
+        入力中項目 = &画面(u"ヘッド終了"_qs);
+        画面.SetFocus(見出し項目(g));
+        return;
+    }
+    部品& タブ = 画面(u"tab_詳細"_qs);
+    タブ.Enabled = true;
+    const bool 前へ = 離脱項目 && 離脱項目->名前 == u"担当者コード";
+    if (タブ.Value == 1) {
+        画面.SetFocus(画面(u"List付属書類"_qs));
+    } else if (前へ) {
+        画面.SetFocus(画面(u"費目区分"_qs, 0));
+    } else {
+        if (s.最終行 > 4) {
+            部品& 棒 = 画面(u"scl_行"_qs);
+            画面.操作_値変更(棒, 棒.Value - 1);
+        }
+        画面.SetFocus(画面(u"摘要"_qs, 0));
+    }
+}
+
+void frm紺碧帳::頁1終了取得(int r) {
+    const QString 元 = 離脱項目 ? 離脱項目->名前 : QString();
+    if (元 == u"出金金額" || 元 == u"出金消費税") {
+        if (s.現在行 > s.最終行 || (s.最終行 == 14 && s.現在行 == s.最終行)) {
+            画面.SetFocus(画面(u"出金伝票備考A"_qs));
+        } else if (r < 4) {
+            画面.SetFocus(画面(u"費目区分"_qs, r + 1));
+        } else {
+            部品& 棒 = 画面(u"scl_行"_qs);
+            if (棒.Max < 棒.Value + 1) 棒.Max = 棒.Value + 1;
+            画面.操作_値変更(棒, 棒.Value + 1);
+            画面.SetFocus(画面(u"費目区分"_qs, 4));
+        }
+    } else if (元 == u"費目区分") {
+        画面.SetFocus(画面(u"出金金額"_qs, r));
+    }
+}
+
+void frm紺碧帳::テイル終了取得() {
+    if (!離脱項目 || 離脱項目->名前 != u"出金伝票備考B") return;
+    画面.SetFocus(*先頭入力項目);
+    if (s.入力変更フラグ && 登録処理) 登録処理();
+}
+
+void frm紺碧帳::詳細頁変更() {
+    部品& タブ = 画面(u"tab_詳細"_qs);
+    if (!タブ.Enabled) return;
+    画面(u"scl_行"_qs).Visible = タブ.Value == 0;
+    if (タブ.Value == 0) 画面.SetFocus(画面(u"摘要"_qs, 0));
+}
+
+void frm紺碧帳::スクロール変更() {
+    s.先頭行 = static_cast<short>(画面(u"scl_行"_qs).Value);
+    if (s.表示行 + s.先頭行 > s.最終行 + 1) s.表示行 = static_cast<short>(s.最終行 + 1 - s.先頭行);
+    s.現在行 = static_cast<short>(s.表示行 + s.先頭行);
+    明細表示();
+    if (入力中項目) 画面.SetFocus(*入力中項目);
+}

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QList>
+#include <QQueue>
+#include <QString>
+#include <memory>
+#include <vector>
+
+#include "screen/部品.h"
+
+// A screen as a model: its controls by name (control arrays by name and index), the focus, and
+// the events an operator's actions fire. Focus moves asked for inside an event are queued and
+// delivered after the event returns, in order, as the platform's message queue delivers them.
+class 画面モデル {
+public:
+    explicit 画面モデル(QString 名前) : 名前(std::move(名前)) {}
+    画面モデル(const 画面モデル&) = delete;
+    画面モデル& operator=(const 画面モデル&) = delete;
+
+    const QString 名前;
+    QString Caption;
+    int Width = 0, Height = 0;
+
+    部品& 追加(const QString& 名前, 部品種別 種別, int 添字 = -1);
+    部品* 探す(const QString& 名前, int 添字 = -1);
+    const 部品* 探す(const QString& 名前, int 添字 = -1) const;
+    部品& operator()(const QString& 名前, int 添字 = -1);
+    // Every control in the order of creation, as the platform enumerates a form's controls.
+    std::vector<部品*> 全部品() const;
+
+    部品* フォーカス() const { return 現在; }
+    // A focus move asked for by code: delivered once the running event has returned.
+    void SetFocus(部品& 先);
+
+    // What an operator does. Each runs its events and then every focus move they queued.
+    void 操作_フォーカス(部品& 先);  // click into a field or tab to it
+    void 操作_入力(部品& 先, const QString& 文字列);  // focus it and type the text
+    void 操作_Tab();
+    void 操作_ShiftTab();
+    void 操作_クリック(部品& 先);
+    void 操作_ダブルクリック(部品& 先);
+    void 操作_キー(部品& 先, int キーコード);
+    void 操作_値変更(部品& 先, int 値);  // a scroll bar, check box, tab page or list position
+
+    // The next or previous control in tab order that is visible, enabled and a tab stop.
+    部品* 次のタブ(const 部品* 起点, bool 逆) const;
+
+private:
+    void 移す(部品* 先);
+    void 待ちを処理();
+    bool 処理中 = false;
+
+    std::vector<std::unique_ptr<部品>> 部品群;
+    部品* 現在 = nullptr;
+    QQueue<部品*> 待ち;
+};
