@@ -7,6 +7,7 @@
 #include "app/起動処理.h"
 #include "dataenv/ファイル操作.h"
 #include "ui/Qtプラットフォーム.h"
+#include "screen/frm紺碧帳.h"
 #include "ui/仮入力画面.h"
 
 int main(int argc, char** argv) {
@@ -17,8 +18,9 @@ int main(int argc, char** argv) {
     出金セッション セッション(基盤);
     セッション.データ.自身のフォルダ = QCoreApplication::applicationDirPath();
 
-    EntryWindow 窓(セッション);
-    仮入力画面 画面(窓);
+    frm紺碧帳 モデル(セッション);
+    EntryWindow 窓(モデル);
+    仮入力画面 画面(モデル, 窓);
     紺碧帳起動 起動(セッション, 画面);
     二重起動検査 検査(QDir::tempPath(), QCoreApplication::applicationDirPath(), 端末利用者名取得());
     起動.他に起動中 = [&] { return 検査.他に起動中(); };

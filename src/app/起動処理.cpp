@@ -1,5 +1,6 @@
 #include "app/起動処理.h"
 
+#include "screen/次項目補正.h"
 #include "text/プラットフォーム.h"
 #include "text/数値変換.h"
 
@@ -186,7 +187,7 @@ void 紺碧帳起動::終了処理() {
 }
 
 void 紺碧帳起動::停止処理() {
-    // No window procedure is ever replaced in this program, so there is nothing to restore.
+    ウィンドウプロシージャ復元();
     終了処理();
     if (s.白樺連携フラグ) 人事連携終了();
 }

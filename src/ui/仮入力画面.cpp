@@ -4,8 +4,15 @@
 #include <QLabel>
 #include <QTimer>
 
-EntryWindow::EntryWindow(出金セッション& セッション) : s(セッション) {
-    resize(12375 / 15, 8000 / 15);
+EntryWindow::EntryWindow(frm紺碧帳& 画面_) : 画面(画面_) {}
+
+void EntryWindow::画面読込() {
+    setWindowTitle(画面.画面.Caption);
+    // 15 twips to a pixel at 96 dpi.
+    resize(画面.画面.Width / 15, 画面.画面.Height / 15);
+    auto* 題 = new QLabel(画面.s.データ.会社.名称 + u"\n出金伝票"_qs, this);
+    題->setAlignment(Qt::AlignCenter);
+    setCentralWidget(題);
 }
 
 void EntryWindow::closeEvent(QCloseEvent* e) {
@@ -21,15 +28,10 @@ void EntryWindow::showEvent(QShowEvent* e) {
     }
 }
 
-void EntryWindow::画面読込() {
-    setWindowTitle(s.データ.会社.名称 + u"（紺碧帳）"_qs);
-    auto* 題 = new QLabel(s.データ.会社.名称 + u"\n出金伝票"_qs, this);
-    題->setAlignment(Qt::AlignCenter);
-    setCentralWidget(題);
-}
-
 void 仮入力画面::表示() {
+    画面.画面読込(伝票読込);
     窓.画面読込();
-    if (伝票読込) 伝票読込();
     窓.show();
 }
+
+void 仮入力画面::既定フォーカス設定() { 画面.フォーカス設定(画面.画面(u"担当者コード"_qs)); }

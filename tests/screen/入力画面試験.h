@@ -1,0 +1,63 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "common/伝票投入.h"
+#include "common/試験用ツリー.h"
+#include "screen/frm紺碧帳.h"
+#include "text/台本プラットフォーム.h"
+
+// The entry screen on the sample tree, loaded with today's empty slip (2025-11-20), as an
+// operator finds it after the start.
+class 入力画面試験 : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
+        基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
+        s.データ.自身のフォルダ = 木.プログラムフォルダ();
+        ASSERT_TRUE(s.データ.SYB_OPEN());
+        ASSERT_TRUE(s.データ.DB_OPEN());
+        ASSERT_TRUE(s.データ.基本項目読込());
+        s.見出し.事業所コード = u"000"_qs;
+        s.見出し.出金日付年 = u"2025"_qs;
+        s.見出し.出金日付月 = u"11"_qs;
+        s.見出し.出金日付日 = u"20"_qs;
+        s.出金日付確定();
+        f = std::make_unique<frm紺碧帳>(s);
+        f->画面読込([this] { s.出金情報初期化(); });
+    }
+
+    部品& c(const QString& 名前, int 行 = -1) { return f->画面(名前, 行); }
+    QString 焦点() const {
+        const 部品* p = f->画面.フォーカス();
+        if (!p) return {};
+        return p->添字 < 0 ? p->名前 : p->名前 + u"("_qs + QString::number(p->添字) + u")"_qs;
+    }
+    // The header filled as staff 00003 would have it, behind the screen's back.
+    void 見出しを埋める() {
+        s.見出し.担当者コード = u"00003"_qs;
+        s.見出し.担当者名 = u"上田 健一"_qs;
+        s.見出し.部門コード = u"001"_qs;
+        s.見出し.セクションコード = u"001"_qs;
+        f->見出し表示();
+    }
+    // Lines 0 .. n-1 with expense class 3 and amounts 1000, 2000, ...
+    void 行を入れる(int n) {
+        for (int i = 0; i < n; ++i) {
+            s.行[i].費目区分 = 3;
+            s.行[i].内税外税区分 = 1;
+            s.行[i].消費税率 = 金額::円(10);
+            s.行[i].出金金額 = 金額::円(1000 * (i + 1));
+        }
+        s.最終行 = static_cast<short>(n - 1);
+        f->明細表示();
+        f->スクロール更新();
+    }
+
+    試験用ツリー 木;
+    台本プラットフォーム 基盤;
+    出金セッション s{基盤};
+    std::unique_ptr<frm紺碧帳> f;
+};
