@@ -26,6 +26,7 @@ int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     起動時間計測();
     データ層計測();
+    入力画面計測();
     伝票計測();
     return 0;
 }

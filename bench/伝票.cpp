@@ -22,15 +22,18 @@ QString 大量伝票の木(int 件数) {
     if (!ツリー作成(指定, エラー)) return {};
     std::printf("generating %d slips of 5 lines ...\n", 件数);
     std::fflush(stdout);
-    const int rc = QProcess::execute(QStringLiteral(KONPEKI_SOURCE_DIR) + u"/scripts/make-slip-data"_qs,
-                                     {根 + u"/data/gnrdb.db"_qs, QString::number(件数)});
+    const int rc =
+        QProcess::execute(QStringLiteral(KONPEKI_SOURCE_DIR) + u"/scripts/make-slip-data"_qs,
+                          {根 + u"/data/gnrdb.db"_qs, QString::number(件数)});
     if (rc != 0) return {};
     QFile f(根 + u"/data/ready"_qs);
     f.open(QIODevice::WriteOnly);
     return 根;
 }
 
-double ミリ秒(const QElapsedTimer& t) { return t.nsecsElapsed() / 1e6; }
+double ミリ秒(const QElapsedTimer& t) {
+    return t.nsecsElapsed() / 1e6;
+}
 
 void 計測一式(int 件数) {
     const QString 根 = 大量伝票の木(件数);
@@ -65,7 +68,7 @@ void 計測一式(int 件数) {
 
     // A take that meets a number already stored under the base date and retries once.
     s.データ.業務DB検索(rs, u"SELECT MAX(出金No) AS 最大 FROM T出金 WHERE 番号基準日付 = '"_qs +
-                                 基準日付 + u"' AND 出金No <> '99999999'"_qs);
+                                基準日付 + u"' AND 出金No <> '99999999'"_qs);
     const qint64 最大 = rs.文字列(u"最大"_qs).toLongLong();
     rs.閉じる();
     const QString 番号ID = 番号定数::出金番号ID.toString();
@@ -85,8 +88,9 @@ void 計測一式(int 件数) {
             [&](const QString& n) {
                 記録集合 r;
                 const bool 使用済み = s.データ.業務DB検索(
-                    r, u"SELECT TOP 1 出金No FROM T出金 WHERE 事業所コード = '000' AND 番号基準日付 = '"_qs +
-                           基準日付 + u"' AND 出金No = '"_qs + n + u"'"_qs);
+                    r,
+                    u"SELECT TOP 1 出金No FROM T出金 WHERE 事業所コード = '000' AND 番号基準日付 = '"_qs +
+                        基準日付 + u"' AND 出金No = '"_qs + n + u"'"_qs);
                 r.閉じる();
                 return 使用済み;
             });

@@ -6,8 +6,8 @@
 #include "app/二重起動.h"
 #include "app/起動処理.h"
 #include "dataenv/ファイル操作.h"
-#include "ui/Qtプラットフォーム.h"
 #include "screen/frm紺碧帳.h"
+#include "ui/Qtプラットフォーム.h"
 #include "ui/仮入力画面.h"
 
 int main(int argc, char** argv) {

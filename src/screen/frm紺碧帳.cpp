@@ -15,18 +15,19 @@ struct 項目位置 {
 
 // Section and ordinal of the header and tail items for the order guard.
 const 項目位置 見出し項目表[] = {
-    {u"出金日付年", 1, 1},     {u"出金日付月", 1, 2},   {u"出金日付日", 1, 3},
-    {u"出金No", 1, 4},         {u"担当者コード", 1, 5}, {u"担当者名", 1, 6},
-    {u"部門コード", 1, 6},     {u"部門名", 1, 7},       {u"セクションコード", 1, 7},
-    {u"出張申請No", 1, 7},     {u"セクション名", 1, 8}, {u"出金伝票備考A", 3, 1},
+    {u"出金日付年", 1, 1},    {u"出金日付月", 1, 2},   {u"出金日付日", 1, 3},
+    {u"出金No", 1, 4},        {u"担当者コード", 1, 5}, {u"担当者名", 1, 6},
+    {u"部門コード", 1, 6},    {u"部門名", 1, 7},       {u"セクションコード", 1, 7},
+    {u"出張申請No", 1, 7},    {u"セクション名", 1, 8}, {u"出金伝票備考A", 3, 1},
     {u"出金伝票備考B", 3, 1},
 };
 
 // Row items: the expense class and its list may be entered on an empty line, the rest not.
 const 項目位置 明細項目表[] = {
-    {u"費目区分", 2, 1}, {u"費目区分名称", 2, 1}, {u"内税外税区分", 2, 2}, {u"内税外税区分名称", 2, 2},
-    {u"支払先", 2, 2},   {u"摘要", 2, 2},         {u"消費税率", 2, 2},     {u"出金金額", 2, 2},
-    {u"出金消費税", 2, 2}, {u"chb_課税事業所区分", 2, 2},
+    {u"費目区分", 2, 1},           {u"費目区分名称", 2, 1}, {u"内税外税区分", 2, 2},
+    {u"内税外税区分名称", 2, 2},   {u"支払先", 2, 2},       {u"摘要", 2, 2},
+    {u"消費税率", 2, 2},           {u"出金金額", 2, 2},     {u"出金消費税", 2, 2},
+    {u"chb_課税事業所区分", 2, 2},
 };
 
 bool 入力欄(const 部品& p) {
@@ -34,7 +35,9 @@ bool 入力欄(const 部品& p) {
            p.種別 == 部品種別::ComboBox || p.種別 == 部品種別::CheckBox;
 }
 
-QString 金額表示(const 金額& 額) { return 書式(額, u"#,###,###,##0"); }
+QString 金額表示(const 金額& 額) {
+    return 書式(額, u"#,###,###,##0");
+}
 
 }  // namespace
 
@@ -113,7 +116,8 @@ void frm紺碧帳::事象を結ぶ() {
         合計表示();
     };
     // The lookups: key code 17 or a double click in the field, or the field's button.
-    for (const char16_t* 名 : {u"出金No", u"担当者コード", u"部門コード", u"セクションコード", u"出張申請No"}) {
+    for (const char16_t* 名 :
+         {u"出金No", u"担当者コード", u"部門コード", u"セクションコード", u"出張申請No"}) {
         const QString 名前 = QString::fromUtf16(名);
         部品& p = 画面(名前);
         p.KeyDown = [this, 名前](int キー) {
@@ -286,4 +290,6 @@ void frm紺碧帳::フォーカス設定(部品& 対象) {
     if (先->Enabled && 先->TabStop) 画面.SetFocus(*先);
 }
 
-QString frm紺碧帳::報告用お知らせ() const { return 画面.探す(u"お知らせ"_qs)->Caption; }
+QString frm紺碧帳::報告用お知らせ() const {
+    return 画面.探す(u"お知らせ"_qs)->Caption;
+}

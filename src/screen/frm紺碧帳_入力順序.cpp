@@ -2,26 +2,28 @@
 
 namespace {
 
-const char16_t* const 見出し必須[] = {u"出金日付年", u"出金日付月", u"出金日付日", u"出金No",
-                                     u"担当者コード", u"部門コード", u"セクションコード"};
+const char16_t* const 見出し必須[] = {u"出金日付年",   u"出金日付月", u"出金日付日",      u"出金No",
+                                      u"担当者コード", u"部門コード", u"セクションコード"};
 
 // Items a detail row can be given the focus by name.
 const QStringList 明細名指し = {u"費目区分"_qs, u"費目区分名称"_qs, u"内税外税区分"_qs,
-                               u"出金金額"_qs, u"出金消費税"_qs,   u"摘要"_qs};
+                                u"出金金額"_qs, u"出金消費税"_qs,   u"摘要"_qs};
 
 }  // namespace
 
 int frm紺碧帳::見出し空き() const {
     const auto& h = s.見出し;
-    const QString* 値[] = {&h.出金日付年, &h.出金日付月,      &h.出金日付日, &h.出金No,
-                          &h.担当者コード, &h.部門コード, &h.セクションコード};
+    const QString* 値[] = {&h.出金日付年,   &h.出金日付月, &h.出金日付日,      &h.出金No,
+                           &h.担当者コード, &h.部門コード, &h.セクションコード};
     for (int i = 0; i < 7; ++i) {
         if (値[i]->trimmed().isEmpty()) return i + 1;
     }
     return 0;
 }
 
-int frm紺碧帳::明細空き(int 明細) const { return s.行[明細].費目区分 == 0 ? 1 : 0; }
+int frm紺碧帳::明細空き(int 明細) const {
+    return s.行[明細].費目区分 == 0 ? 1 : 0;
+}
 
 部品& frm紺碧帳::見出し項目(int 序数) {
     return 画面(QString::fromUtf16(見出し必須[qBound(1, 序数, 7) - 1]));
@@ -52,7 +54,8 @@ bool frm紺碧帳::入力順序確認(int 区分, int 行, const QString& 項目
             QString 先 = 項目名;
             const QString 元 = 離脱項目 ? 離脱項目->名前 : QString();
             if (項目名 == u"担当者名" && 元 != u"担当者コード") 先 = u"担当者コード"_qs;
-            if (項目名 == u"部門名") 先 = 元 != u"部門コード" ? u"部門コード"_qs : u"セクションコード"_qs;
+            if (項目名 == u"部門名")
+                先 = 元 != u"部門コード" ? u"部門コード"_qs : u"セクションコード"_qs;
             if (項目名 == u"セクション名" && 元 != u"セクションコード") 先 = u"セクションコード"_qs;
             if (!入力中項目 || 先 != 入力中項目->名前) 名前で移す(先);
         }
@@ -68,8 +71,10 @@ bool frm紺碧帳::入力順序確認(int 区分, int 行, const QString& 項目
             } else {
                 const int g = 明細空き(行 + s.先頭行);
                 if (g == 0 || 序数 <= g) {
-                    const bool 同じ = 入力中項目 && 入力中項目->名前 == 項目名 && 入力中項目->添字 == 行;
-                    if (!項目名.isEmpty() && !同じ && 明細名指し.contains(項目名)) 名前で移す(項目名, 行);
+                    const bool 同じ =
+                        入力中項目 && 入力中項目->名前 == 項目名 && 入力中項目->添字 == 行;
+                    if (!項目名.isEmpty() && !同じ && 明細名指し.contains(項目名))
+                        名前で移す(項目名, 行);
                 } else {
                     画面.SetFocus(画面(u"費目区分"_qs, 行));
                     結果 = true;
@@ -133,7 +138,7 @@ bool frm紺碧帳::必須項目案内() {
 void frm紺碧帳::ボタン状態更新() {
     const int r = s.表示行;
     const bool 区分空白 = 画面(u"費目区分"_qs, r).Text.trimmed().isEmpty() ||
-                         画面(u"費目区分"_qs, r).Text.trimmed().toInt() == 0;
+                          画面(u"費目区分"_qs, r).Text.trimmed().toInt() == 0;
     画面(u"btn_行クリア"_qs).Enabled = s.最終行 >= 0;
     画面(u"btn_行挿入"_qs).Enabled =
         s.最終行 >= 0 && s.最終行 <= 13 && s.現在行 <= s.最終行 && !区分空白;
@@ -143,9 +148,11 @@ void frm紺碧帳::ボタン状態更新() {
     画面(u"btn_セクションコード"_qs).Enabled = 担当者あり;
     画面(u"tab_詳細"_qs).Enabled = 見出し空き() == 0;
     int 区分 = 0, 行 = 0, 序数 = 0;
-    画面(u"btn_登録"_qs).Enabled = 必須項目確認(区分, 行, 序数) && s.最終行 >= 0 && s.入力変更フラグ;
+    画面(u"btn_登録"_qs).Enabled =
+        必須項目確認(区分, 行, 序数) && s.最終行 >= 0 && s.入力変更フラグ;
     const bool 保存済み = !s.新規情報フラグ;
-    for (const char16_t* 名 : {u"btn_削除", u"btn_印刷", u"btn_プレビュ", u"btn_帳票イメージ出力"}) {
+    for (const char16_t* 名 :
+         {u"btn_削除", u"btn_印刷", u"btn_プレビュ", u"btn_帳票イメージ出力"}) {
         画面(QString::fromUtf16(名)).Enabled = 保存済み;
     }
 }

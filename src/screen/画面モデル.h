@@ -12,7 +12,7 @@
 // the events an operator's actions fire. Focus moves asked for inside an event are queued and
 // delivered after the event returns, in order, as the platform's message queue delivers them.
 class 画面モデル {
-public:
+  public:
     explicit 画面モデル(QString 名前) : 名前(std::move(名前)) {}
     画面モデル(const 画面モデル&) = delete;
     画面モデル& operator=(const 画面モデル&) = delete;
@@ -33,7 +33,7 @@ public:
     void SetFocus(部品& 先);
 
     // What an operator does. Each runs its events and then every focus move they queued.
-    void 操作_フォーカス(部品& 先);  // click into a field or tab to it
+    void 操作_フォーカス(部品& 先);                   // click into a field or tab to it
     void 操作_入力(部品& 先, const QString& 文字列);  // focus it and type the text
     void 操作_Tab();
     void 操作_ShiftTab();
@@ -45,7 +45,7 @@ public:
     // The next or previous control in tab order that is visible, enabled and a tab stop.
     部品* 次のタブ(const 部品* 起点, bool 逆) const;
 
-private:
+  private:
     void 移す(部品* 先);
     void 待ちを処理();
     bool 処理中 = false;

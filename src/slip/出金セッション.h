@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "dataenv/データ環境.h"
+#include "rules/消費税計算.h"
 #include "text/金額.h"
 
 // The slip header in memory. The kept fields remember the stored key and date as loaded, so that
@@ -62,17 +63,10 @@ struct 出金合計 {
     金額 今回税率出金消費税合計;
 };
 
-// One slot of the line table.
-struct 出金行 {
+// One slot of the line table; its tax fields are those the tax routines work on.
+struct 出金行 : 明細税額 {
     short 費目区分 = 0;  // 0: an empty row
     QString 費目区分名称;
-    short 内税外税区分 = 0;
-    金額 消費税率;
-    金額 出金金額;
-    金額 出金消費税;
-    金額 実質出金金額;
-    金額 税抜出金金額;
-    金額 税込出金金額;
     QString 支払先;
     short 課税事業所区分 = 0;
     QString 摘要;

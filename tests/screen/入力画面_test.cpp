@@ -1,5 +1,5 @@
-#include "入力画面試験.h"
 #include "screen/次項目補正.h"
+#include "入力画面試験.h"
 
 namespace {
 
@@ -26,9 +26,9 @@ TEST_F(入力画面, 配置は題名と幅と長さの制限と一覧を整え�
 }
 
 TEST_F(入力画面, 見出しの順番と止まる項目は表の通り) {
-    const char16_t* 順[] = {u"出金日付年", u"出金日付月", u"出金日付日", u"出金No",
-                           u"担当者コード", u"担当者名", u"部門コード", u"部門名",
-                           u"セクションコード", u"セクション名", u"出張申請No", u"ヘッド終了"};
+    const char16_t* 順[] = {u"出金日付年",       u"出金日付月",   u"出金日付日", u"出金No",
+                            u"担当者コード",     u"担当者名",     u"部門コード", u"部門名",
+                            u"セクションコード", u"セクション名", u"出張申請No", u"ヘッド終了"};
     for (int i = 0; i < 12; ++i) EXPECT_EQ(c(QString::fromUtf16(順[i])).TabIndex, i);
     EXPECT_FALSE(c(u"担当者名"_qs).TabStop);
     EXPECT_FALSE(c(u"部門コード"_qs).TabStop);

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "common/伝票投入.h"
+#include "common/出金準備.h"
 #include "common/試験用ツリー.h"
 #include "screen/frm紺碧帳.h"
 #include "text/台本プラットフォーム.h"
@@ -12,19 +13,12 @@
 // The entry screen on the sample tree, loaded with today's empty slip (2025-11-20), as an
 // operator finds it after the start.
 class 入力画面試験 : public ::testing::Test {
-protected:
+  protected:
     void SetUp() override {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
-        s.データ.自身のフォルダ = 木.プログラムフォルダ();
-        ASSERT_TRUE(s.データ.SYB_OPEN());
-        ASSERT_TRUE(s.データ.DB_OPEN());
-        ASSERT_TRUE(s.データ.基本項目読込());
-        s.見出し.事業所コード = u"000"_qs;
-        s.見出し.出金日付年 = u"2025"_qs;
-        s.見出し.出金日付月 = u"11"_qs;
-        s.見出し.出金日付日 = u"20"_qs;
-        s.出金日付確定();
+        出金セッション準備(s, 木);
+        if (HasFatalFailure()) return;
         f = std::make_unique<frm紺碧帳>(s);
         f->画面読込([this] { s.出金情報初期化(); });
     }

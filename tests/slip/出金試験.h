@@ -2,6 +2,7 @@
 
 #include "common/エンジン別試験.h"
 #include "common/伝票投入.h"
+#include "common/出金準備.h"
 #include "slip/出金セッション.h"
 
 // A session on the sample tree, opened and initialised as at the program's start, on both
@@ -12,15 +13,8 @@ class 出金試験 : public エンジン別試験 {
         エンジン別試験::SetUp();
         if (IsSkipped() || HasFatalFailure()) return;
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
-        s.データ.自身のフォルダ = 木->プログラムフォルダ();
-        ASSERT_TRUE(s.データ.SYB_OPEN());
-        ASSERT_TRUE(s.データ.DB_OPEN());
-        ASSERT_TRUE(s.データ.基本項目読込());
-        s.見出し.事業所コード = u"000"_qs;
-        s.見出し.出金日付年 = u"2025"_qs;
-        s.見出し.出金日付月 = u"11"_qs;
-        s.見出し.出金日付日 = u"20"_qs;
-        s.出金日付確定();
+        出金セッション準備(s, *木);
+        if (HasFatalFailure()) return;
         s.出金情報初期化();
     }
 
