@@ -9,7 +9,7 @@
 // The entry screen of the slip: every control by the name it has on the form, and the event
 // routines behind them. The Qt window only draws this model and forwards what the operator does.
 class frm紺碧帳 {
-public:
+  public:
     explicit frm紺碧帳(出金セッション& セッション);
 
     出金セッション& s;
@@ -43,10 +43,10 @@ public:
     void ボタン状態更新();
     bool 必須項目確認(int& 区分, int& 行, int& 序数);
     bool 必須項目案内();
-    int 見出し空き() const;           // ordinal of the header's first empty required item
-    int 明細空き(int 明細) const;     // 1 when the line has no expense class
-    部品& 見出し項目(int 序数);       // the header item of an ordinal
-    QString 報告用お知らせ() const;   // what the notice panel shows
+    int 見出し空き() const;          // ordinal of the header's first empty required item
+    int 明細空き(int 明細) const;    // 1 when the line has no expense class
+    部品& 見出し項目(int 序数);      // the header item of an ordinal
+    QString 報告用お知らせ() const;  // what the notice panel shows
 
     // Header fields.
     bool 出金日付更新(int 部分, const QString& 文字列);  // 0 year, 1 month, 2 day
@@ -55,6 +55,8 @@ public:
     bool セクション確定(const QString& コード);
     bool 備考確定(int 備考, const QString& 文字列);  // 0 A, 1 B
     void 一覧を開く(const QString& 項目名);
+    // btn_参照元No: the trip application program on the slip's application.
+    void 参照元No起動();
 
     // Line grid.
     bool 費目区分確定(int 行, int 区分);
@@ -71,9 +73,10 @@ public:
     void 行複写();
     void 摘要一覧(int 行);
 
-private:
+  private:
     void 部品を作る();
     void 事象を結ぶ();
+    void 明細事象を結ぶ();
     void 一覧を埋める();
     void 見出し離脱(部品& p);
     void 明細離脱(部品& p);

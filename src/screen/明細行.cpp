@@ -1,17 +1,312 @@
+#include "rules/消費税計算.h"
 #include "screen/frm紺碧帳.h"
+#include "text/プラットフォーム.h"
+#include "text/実行時エラー.h"
+#include "text/数値変換.h"
+#include "text/数値書式.h"
 
-void frm紺碧帳::明細離脱(部品&) {}
-bool frm紺碧帳::費目区分確定(int, int) { return false; }
-bool frm紺碧帳::内税外税区分確定(int, int) { return false; }
-bool frm紺碧帳::消費税率確定(int, const 金額&) { return false; }
-bool frm紺碧帳::出金金額確定(int, const 金額&) { return false; }
-bool frm紺碧帳::出金消費税確定(int, const 金額&) { return false; }
-bool frm紺碧帳::支払先確定(int, const QString&) { return false; }
-bool frm紺碧帳::課税事業所区分確定(int, int) { return false; }
-bool frm紺碧帳::摘要確定(int, const QString&) { return false; }
-void frm紺碧帳::明細行表示(int, int) {}
-void frm紺碧帳::行クリア() {}
-void frm紺碧帳::行挿入() {}
-void frm紺碧帳::行複写() {}
-void frm紺碧帳::摘要一覧(int) {}
-void frm紺碧帳::行を写す(int, int) {}
+namespace {
+
+// No line of a disbursement slip is ever allocated elsewhere, so the guard always lets go.
+bool 引当済み(const 出金行&) {
+    return false;
+}
+
+// A slot with nothing to show, as a cleared or freshly opened line: its fields stay blank
+// instead of showing zeros.
+bool 表示欄が空(const 出金行& l) {
+    return l.費目区分 == 0 && l.内税外税区分 == 0 && l.消費税率.ゼロか() && l.出金金額.ゼロか() &&
+           l.出金消費税.ゼロか() && l.支払先.isEmpty() && l.摘要.isEmpty() && l.課税事業所区分 == 0;
+}
+
+int 一覧位置(int 位置, const 部品& 一覧) {
+    return 位置 >= 0 && 位置 < 一覧.一覧.size() ? 位置 : -1;
+}
+
+// An arithmetic failure ends the operation that the event started, never the program.
+template <class F>
+void 失敗を受け止める(出金セッション& s, F&& 処理) {
+    try {
+        処理();
+    } catch (const 実行時エラー& e) {
+        s.画面表示中フラグ = false;  // a display cut short must not leave the screen deaf
+        s.データ.基盤.メッセージ(QString::fromUtf8(e.what()));
+    }
+}
+
+}  // namespace
+
+void frm紺碧帳::明細事象を結ぶ() {
+    // The lists and the check box change without the focus leaving them.
+    for (int r = 0; r < 表示行数; ++r) {
+        for (const char16_t* 名 : {u"費目区分名称", u"内税外税区分名称", u"chb_課税事業所区分"}) {
+            部品& p = 画面(QString::fromUtf16(名), r);
+            p.Click = [this, &p] { 明細離脱(p); };
+        }
+    }
+}
+
+void frm紺碧帳::明細離脱(部品& p) {
+    if (s.画面表示中フラグ || 画面使用中) return;
+    const int r = p.添字;
+    if (r < 0 || r != s.表示行) return;
+    失敗を受け止める(s, [&] {
+        const QString& 名 = p.名前;
+        enum { 行と合計, 行だけ, なし } 再表示 = 行と合計;
+        bool 変更 = false;
+        if (名 == u"費目区分") {
+            変更 = 費目区分確定(r, 小整数値(p.Text));
+        } else if (名 == u"費目区分名称") {
+            変更 = 費目区分確定(r, p.ListIndex < 0 ? 0 : p.ListIndex + 1);
+        } else if (名 == u"内税外税区分") {
+            変更 = 内税外税区分確定(r, 小整数値(p.Text));
+        } else if (名 == u"内税外税区分名称") {
+            // A list without a selection names no class.
+            if (p.ListIndex >= 0) 変更 = 内税外税区分確定(r, p.ListIndex);
+        } else if (名 == u"消費税率") {
+            変更 = 消費税率確定(r, 金額::表示文字列から(p.Text));
+        } else if (名 == u"出金金額") {
+            変更 = 出金金額確定(r, 金額::表示文字列から(p.Text));
+        } else if (名 == u"出金消費税") {
+            変更 = 出金消費税確定(r, 金額::表示文字列から(p.Text));
+        } else if (名 == u"支払先") {
+            変更 = 支払先確定(r, p.Text);
+            再表示 = 行だけ;
+        } else if (名 == u"chb_課税事業所区分") {
+            変更 = 課税事業所区分確定(r, p.Value);
+            再表示 = 行だけ;
+        } else if (名 == u"摘要") {
+            変更 = 摘要確定(r, p.Text);
+            再表示 = なし;
+        }
+        if (!変更) return;
+        if (再表示 != なし) 明細行表示(s.先頭行 + r, r);
+        if (再表示 == 行と合計) 合計表示();
+        画面(u"お知らせ"_qs).Caption = s.お知らせ文言;
+    });
+}
+
+bool frm紺碧帳::費目区分確定(int 行, int 区分) {
+    出金行& l = s.行[s.先頭行 + 行];
+    if (区分 == l.費目区分) return false;
+    s.入力変更フラグ = true;
+    const QString 文 = u"SELECT K費目区分.*"_qs + u" FROM K費目区分"_qs +
+                       u" WHERE K費目区分.区分 = '"_qs + 書式(区分, u"00") + u"'"_qs;
+    記録集合 rs;
+    const bool あり = s.データ.業務DB検索(rs, 文, true);
+    short 新区分 = 0, 内外 = 1;
+    QString 名称;
+    if (あり) {
+        新区分 = rs.整数(u"区分"_qs);
+        名称 = rs.文字列(u"名称"_qs);
+        内外 = rs.整数(u"内税外税区分"_qs);
+    }
+    rs.閉じる();
+    if (あり) {
+        費目区分変更時再計算(s.データ, l, 内外, s.見出し.出金日付);
+        l.費目区分 = 新区分;
+        l.費目区分名称 = 名称;
+        s.合計再計算();
+        費目区分不正 = false;
+    } else {
+        // Rate, tax and amounts stay as they were, a typed tax included.
+        費目区分不明時設定(l);
+        l.費目区分 = 0;
+        費目区分不正 = true;
+    }
+    return true;
+}
+
+bool frm紺碧帳::内税外税区分確定(int 行, int 区分) {
+    出金行& l = s.行[s.先頭行 + 行];
+    if (区分 == l.内税外税区分) return false;
+    s.入力変更フラグ = true;
+    内税外税区分変更時再計算(l, 小整数へ(区分));
+    s.合計再計算();
+    return true;
+}
+
+bool frm紺碧帳::消費税率確定(int 行, const 金額& 率) {
+    出金行& l = s.行[s.先頭行 + 行];
+    if (率 == l.消費税率) return false;
+    s.入力変更フラグ = true;
+    消費税率変更時再計算(l, 率);
+    s.合計再計算();
+    return true;
+}
+
+bool frm紺碧帳::出金金額確定(int 行, const 金額& 額) {
+    出金行& l = s.行[s.先頭行 + 行];
+    if (額 == l.出金金額) return false;
+    s.入力変更フラグ = true;
+    出金金額変更時再計算(l, 額);
+    s.合計再計算();
+    return true;
+}
+
+bool frm紺碧帳::出金消費税確定(int 行, const 金額& 税) {
+    出金行& l = s.行[s.先頭行 + 行];
+    if (!明細税額手入力(l, 税)) return false;
+    s.入力変更フラグ = true;
+    s.合計再計算();
+    return true;
+}
+
+bool frm紺碧帳::支払先確定(int 行, const QString& 文字列) {
+    出金行& l = s.行[s.先頭行 + 行];
+    if (文字列 == l.支払先) return false;
+    s.入力変更フラグ = true;
+    l.支払先 = 文字列;
+    // A named payee is taken as a taxable office; emptying the payee leaves the flag alone.
+    if (!文字列.isEmpty()) l.課税事業所区分 = 1;
+    return true;
+}
+
+bool frm紺碧帳::課税事業所区分確定(int 行, int 値) {
+    出金行& l = s.行[s.先頭行 + 行];
+    if (値 == l.課税事業所区分) return false;
+    s.入力変更フラグ = true;
+    l.課税事業所区分 = 小整数へ(値);
+    return true;
+}
+
+bool frm紺碧帳::摘要確定(int 行, const QString& 文字列) {
+    出金行& l = s.行[s.先頭行 + 行];
+    if (文字列 == l.摘要) return false;
+    s.入力変更フラグ = true;
+    l.摘要 = 文字列;
+    return true;
+}
+
+void frm紺碧帳::明細行表示(int 明細, int 行) {
+    表示中([&] {
+        const 出金行 空欄{};
+        const bool 範囲内 = 明細 >= 0 && 明細 < 最大行数 && 明細 <= s.最終行 + 1;
+        const 出金行& l = 範囲内 ? s.行[明細] : 空欄;
+        const bool 空 = 表示欄が空(l);
+        auto 数 = [空](const 金額& 値) { return 空 ? QString() : 値.文字列(); };
+
+        画面(u"費目区分"_qs, 行).Text = 空 ? QString() : QString::number(l.費目区分);
+        画面(u"内税外税区分"_qs, 行).Text = 空 ? QString() : QString::number(l.内税外税区分);
+        画面(u"消費税率"_qs, 行).Text = 数(l.消費税率);
+        画面(u"出金金額"_qs, 行).Text = 数(l.出金金額);
+        部品& 税 = 画面(u"出金消費税"_qs, 行);
+        税.Text = 数(l.出金消費税);
+        // An inclusive tax stands out in its own colour.
+        税.ForeColor = !空 && l.内税外税区分 == 2 ? 0x8080FF : -1;
+        画面(u"支払先"_qs, 行).Text = l.支払先;
+        画面(u"摘要"_qs, 行).Text = l.摘要;
+        画面(u"chb_課税事業所区分"_qs, 行).Value = l.課税事業所区分;
+
+        部品& 費目名 = 画面(u"費目区分名称"_qs, 行);
+        費目名.ListIndex = 空 ? -1 : 一覧位置(l.費目区分 - 1, 費目名);
+        費目名.Text = 費目名.一覧.value(費目名.ListIndex);
+        部品& 内外名 = 画面(u"内税外税区分名称"_qs, 行);
+        内外名.ListIndex = 空 ? -1 : 一覧位置(l.内税外税区分, 内外名);
+        内外名.Text = 内外名.一覧.value(内外名.ListIndex);
+
+        // Lines with a class, and the first empty line after them, may choose from the lists;
+        // the top row only once a staff member is there.
+        bool 開く = 範囲内 && (l.費目区分 != 0 || 明細 == s.最終行 + 1);
+        if (行 == 0 && 数値変換(画面(u"担当者コード"_qs).Text) == 0) 開く = false;
+        費目名.Enabled = 開く;
+        内外名.Enabled = 開く;
+    });
+}
+
+// Moves and copies of lines carry this set of fields only; the derived amounts, the position
+// and the store dates of the target stay as they were.
+void frm紺碧帳::行を写す(int 元, int 先) {
+    const 出金行& a = s.行[元];
+    出金行& b = s.行[先];
+    b.費目区分 = a.費目区分;
+    b.内税外税区分 = a.内税外税区分;
+    b.消費税率 = a.消費税率;
+    b.出金金額 = a.出金金額;
+    b.出金消費税 = a.出金消費税;
+    b.支払先 = a.支払先;
+    b.課税事業所区分 = a.課税事業所区分;
+    b.摘要 = a.摘要;
+    b.明細メモ = a.明細メモ;
+    b.出金固有行No = a.出金固有行No;
+    b.費目区分名称 = a.費目区分名称;
+    b.実質出金金額 = a.実質出金金額;
+    b.承認日付 = a.承認日付;
+    b.承認者コード = a.承認者コード;
+}
+
+void frm紺碧帳::行クリア() {
+    if (引当済み(s.行[s.現在行])) {
+        s.データ.基盤.メッセージ(u"引当済みです。"_qs);
+    } else {
+        if (s.最終行 == -1 || s.現在行 > s.最終行) {
+            s.出金行初期化(s.現在行);
+            if (s.最終行 < 5) s.先頭行 = 0;
+        } else {
+            for (int i = s.現在行 + 1; i <= s.最終行 + 1; ++i) 行を写す(i, i - 1);
+            s.出金行初期化(s.最終行);
+            s.入力変更フラグ = true;
+            --s.最終行;
+            if (s.最終行 < 5) s.先頭行 = 0;
+        }
+        s.合計再計算();
+        明細表示();
+        合計表示();
+        スクロール更新();
+    }
+    画面.SetFocus(画面(u"費目区分"_qs, s.表示行));
+}
+
+void frm紺碧帳::行挿入() {
+    // Opening a line changes no amount, so the slip counts as unchanged and no total moves.
+    if (s.最終行 >= s.現在行 && s.最終行 < 最大行数 - 1) {
+        for (int i = s.最終行; i >= s.現在行; --i) 行を写す(i, i + 1);
+        s.出金行初期化(s.現在行);
+        ++s.最終行;
+        明細表示();
+        合計表示();
+        スクロール更新();
+    }
+    画面.SetFocus(画面(u"費目区分"_qs, s.表示行));
+}
+
+void frm紺碧帳::行複写() {
+    if (s.現在行 != 0 && s.最終行 != -1) {
+        行を写す(s.現在行 - 1, s.現在行);
+        // The copy is a new line at the next store.
+        出金行& l = s.行[s.現在行];
+        l.出金固有行No.clear();
+        l.承認日付.clear();
+        l.承認者コード.clear();
+        l.承認区分.clear();
+        l.登録日付.clear();
+        l.更新日付.clear();
+        if (s.最終行 < s.現在行) s.最終行 = s.現在行;
+        s.入力変更フラグ = true;
+        s.合計再計算();
+        明細表示();
+        合計表示();
+    }
+    画面.SetFocus(画面(u"費目区分"_qs, s.表示行));
+}
+
+void frm紺碧帳::摘要一覧(int 行) {
+    if (s.画面表示中フラグ || 画面使用中) return;
+    入力中項目 = 画面.フォーカス();
+    if (入力順序確認(2, 行, u"費目区分"_qs, 1)) return;
+    auto& 基盤 = s.データ.基盤;
+    基盤.画面使用可否(u"frm紺碧帳"_qs, false);
+    s.一覧条件文字列 = 画面(u"摘要"_qs, 行).Text;
+    一覧設定先項目 = &画面(u"費目区分"_qs, 行);
+    一覧設定先名称項目 = &画面(u"摘要"_qs, 行);
+    画面使用中 = true;
+    基盤.画面表示(u"wnd出金摘要一覧"_qs, true);
+    画面使用中 = false;
+    // A pick leaves the chosen line's key behind: "C", office, base date, number, line id.
+    if (s.一覧条件文字列.isEmpty()) return;
+    const int 明細 = s.先頭行 + 行;
+    失敗を受け止める(s, [&] {
+        s.過去明細取込(s.一覧条件文字列.mid(1), 明細);
+        明細行表示(明細, 行);
+    });
+}

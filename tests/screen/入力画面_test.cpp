@@ -225,6 +225,7 @@ TEST_F(入力画面, 行挿入は十五行目で行複写は一行目で使え�
     f->画面.操作_フォーカス(c(u"費目区分"_qs, 4));
     EXPECT_EQ(s.現在行, 14);
     EXPECT_FALSE(c(u"btn_行挿入"_qs).Enabled);
+    行を入れる(14);  // fourteen lines: the fifteenth can still be opened
     f->画面.操作_値変更(c(u"scl_行"_qs), 0);
     f->画面.操作_フォーカス(c(u"費目区分"_qs, 0));
     EXPECT_EQ(s.現在行, 0);
