@@ -2,13 +2,14 @@
 #include <QDir>
 #include <QFont>
 #include <QTextStream>
+#include <QTimer>
 
 #include "app/二重起動.h"
 #include "app/起動処理.h"
 #include "dataenv/ファイル操作.h"
 #include "screen/frm紺碧帳.h"
 #include "ui/Qtプラットフォーム.h"
-#include "ui/仮入力画面.h"
+#include "ui/入力画面ウィンドウ.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -19,25 +20,25 @@ int main(int argc, char** argv) {
     セッション.データ.自身のフォルダ = QCoreApplication::applicationDirPath();
 
     frm紺碧帳 モデル(セッション);
-    EntryWindow 窓(モデル);
-    仮入力画面 画面(モデル, 窓);
+    入力画面ウィンドウ 画面(モデル);
     紺碧帳起動 起動(セッション, 画面);
     二重起動検査 検査(QDir::tempPath(), QCoreApplication::applicationDirPath(), 端末利用者名取得());
     起動.他に起動中 = [&] { return 検査.他に起動中(); };
-    窓.閉じる時 = [&] { 起動.停止処理(); };
+    画面.閉じる時 = [&] { 起動.停止処理(); };
     画面.伝票読込 = [&] { 起動.伝票読込(); };
+    const QString コマンドライン = QCoreApplication::arguments().mid(1).join(u' ');
+    if (起動.プログラム開始(コマンドライン) == 起動結果::停止) return 0;
+
     // For the benchmark and the tests: a picture of the window, word that it is up, and a close
     // as an operator would close it.
     const QString 写真 = qEnvironmentVariable("KONPEKI_SCREENSHOT");
     if (qEnvironmentVariableIsSet("KONPEKI_CLOSE_WHEN_SHOWN") || !写真.isEmpty()) {
-        窓.表示後 = [&] {
-            if (!写真.isEmpty()) 窓.grab().save(写真);
-            QTextStream(stdout) << "shown " << 窓.windowTitle() << Qt::endl;
-            if (qEnvironmentVariableIsSet("KONPEKI_CLOSE_WHEN_SHOWN")) 窓.close();
-        };
+        QTimer::singleShot(0, [&] {
+            ScreenWindow* 窓 = 画面.窓();
+            if (!写真.isEmpty()) 窓->grab().save(写真);
+            QTextStream(stdout) << "shown " << 窓->windowTitle() << Qt::endl;
+            if (qEnvironmentVariableIsSet("KONPEKI_CLOSE_WHEN_SHOWN")) 窓->close();
+        });
     }
-
-    const QString コマンドライン = QCoreApplication::arguments().mid(1).join(u' ');
-    if (起動.プログラム開始(コマンドライン) == 起動結果::停止) return 0;
     return app.exec();
 }

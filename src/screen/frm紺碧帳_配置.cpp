@@ -57,11 +57,11 @@ void frm紺碧帳::部品を作る() {
     c.見出し(u"btn_前No", SSCommand, u"▼", 5220, 見出し上 + 165, 300, 165);
     c.見出し(u"btn_担当者コード", SSCommand, u"担当者コード", 5640, 見出し上, 1200);
     c.入力(u"担当者コード", xField, 6850, 見出し上, 700, 4, true);
-    c.入力(u"担当者名", xField, 7560, 見出し上, 2100, 5, false).MaxLength = 20;
-    c.見出し(u"btn_画面クリア", SSCommand, u"画面ｸﾘｱ", 9720, 見出し上, 640);
-    c.見出し(u"btn_行クリア", SSCommand, u"行ｸﾘｱ", 10370, 見出し上, 640);
-    c.見出し(u"btn_行挿入", SSCommand, u"行挿入", 11020, 見出し上, 640);
-    c.見出し(u"btn_行複写", SSCommand, u"前行複写", 11670, 見出し上, 645);
+    c.入力(u"担当者名", xField, 7560, 見出し上, 1700, 5, false).MaxLength = 20;
+    c.見出し(u"btn_画面クリア", SSCommand, u"画面ｸﾘｱ", 9300, 見出し上, 740);
+    c.見出し(u"btn_行クリア", SSCommand, u"行ｸﾘｱ", 10050, 見出し上, 740);
+    c.見出し(u"btn_行挿入", SSCommand, u"行挿入", 10800, 見出し上, 740);
+    c.見出し(u"btn_行複写", SSCommand, u"前行複写", 11550, 見出し上, 765);
 
     c.見出し(u"btn_部門コード", SSCommand, u"部門", 60, 見出し二段, 900);
     c.入力(u"部門コード", xField, 990, 見出し二段, 500, 6, false);
@@ -78,14 +78,14 @@ void frm紺碧帳::部品を作る() {
     c.置く(u"baK_dtl_heada", SSPanel, 60, 1740, 4020, 300);
     c.見出し(u"itm_ttl_費目区分", SSPanel, u"費目区分", 60, 1740, 2520, 300, u"baK_dtl_heada"_qs);
     c.見出し(u"itm_ttl_内税外税", SSPanel, u"内税外税", 2580, 1740, 1500, 300, u"baK_dtl_heada"_qs);
-    部品& タブ = c.置く(u"tab_詳細", SSTab, 4380, 1440, 7935, 6420);
+    部品& タブ = c.置く(u"tab_詳細", SSTab, 4380, 1380, 7935, 6480);
     タブ.一覧 = {u"明細情報"_qs, u"付属書類"_qs};
     c.置く(u"baK_出金_headb", SSPanel, 4440, 1740, 7815, 300, u"tab_詳細"_qs);
     const QString 頭b = u"baK_出金_headb"_qs;
-    c.見出し(u"itm_ttl_支払先", SSPanel, u"支払先", 4440, 1740, 3560, 300, 頭b);
-    c.見出し(u"itm_ttl_摘要", SSPanel, u"摘要", 8000, 1740, 1200, 300, 頭b);
-    c.見出し(u"itm_ttl_出金金額", SSPanel, u"金額", 9200, 1740, 1600, 300, 頭b);
-    c.見出し(u"itm_ttl_出金消費税", SSPanel, u"消費税", 10800, 1740, 1455, 300, 頭b);
+    c.見出し(u"itm_ttl_支払先", SSPanel, u"支払先", 4440, 1740, 2340, 300, 頭b);
+    c.見出し(u"itm_ttl_摘要", SSPanel, u"摘要", 6780, 1740, 2410, 300, 頭b);
+    c.見出し(u"itm_ttl_出金金額", SSPanel, u"金額", 9190, 1740, 1640, 300, 頭b);
+    c.見出し(u"itm_ttl_出金消費税", SSPanel, u"消費税", 10830, 1740, 1425, 300, 頭b);
 
     for (int r = 0; r < 表示行数; ++r) {
         const int 上 = 明細上 + r * 明細高, 下段 = 上 + 510, 順 = 12 + 10 * r;
@@ -98,14 +98,14 @@ void frm紺碧帳::部品を作る() {
         c.見出し(u"btn_摘要", SSCommand, u"摘要", 3180, 上 + 60, 840, 330, a, r);
         c.入力(u"内税外税区分", xNum, 120, 下段, 500, 順 + 2, false, a, r).MaxLength = 1;
         c.入力(u"内税外税区分名称", ComboBox, 630, 下段, 2500, 順 + 3, true, a, r);
-        c.入力(u"支払先", xText, 4500, 上 + 60, 3440, 順 + 4, true, b, r);
-        c.見出し(u"chb_課税事業所区分", CheckBox, u"課税事業所", 8000, 上 + 60, 1440, 330, b, r);
-        c.入力(u"摘要", xText, 4500, 下段, 3440, 順 + 5, true, b, r);
-        c.見出し(u"Lab_消費税率", xLabel, u"税率", 8000, 下段, 480, 330, b, r);
-        c.入力(u"消費税率", xNum, 8490, 下段, 700, 順 + 6, false, b, r).MaxLength = 5;
-        c.入力(u"出金金額", xNum, 9260, 上 + 60, 1600, 順 + 7, true, b, r).MaxLength = 10;
-        c.入力(u"出金消費税", xNum, 9260, 下段, 1600, 順 + 8, false, b, r).MaxLength = 9;
-        c.入力(u"頁1終了", SSCommand, 10900, 下段 + 270, 30, 順 + 9, true, b, r, 30);
+        c.入力(u"支払先", xText, 4500, 上 + 60, 2250, 順 + 4, true, b, r);
+        c.見出し(u"chb_課税事業所区分", CheckBox, u"課税事業所", 4500, 下段, 1500, 330, b, r);
+        c.入力(u"摘要", xText, 6810, 上 + 60, 2350, 順 + 5, true, b, r);
+        c.見出し(u"Lab_消費税率", xLabel, u"税率", 9220, 下段, 480, 330, b, r);
+        c.入力(u"消費税率", xNum, 9710, 下段, 700, 順 + 6, false, b, r).MaxLength = 5;
+        c.入力(u"出金金額", xNum, 9220, 上 + 60, 1580, 順 + 7, true, b, r).MaxLength = 10;
+        c.入力(u"出金消費税", xNum, 10860, 上 + 60, 1360, 順 + 8, false, b, r).MaxLength = 9;
+        c.入力(u"頁1終了", SSCommand, 12200, 下段 + 270, 30, 順 + 9, true, b, r, 30);
     }
     部品& 行棒 = c.置く(u"scl_行", VScrollBar, 4100, 明細上, 240, 明細高 * 表示行数 - 60);
     行棒.LargeChange = 5;

@@ -1,0 +1,228 @@
+#include "ui/画面ウィンドウ.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTreeWidget>
+
+namespace {
+
+constexpr int 画素(int twips) {
+    return twips / 15;
+}  // 15 twips to a pixel at 96 dpi
+
+// Controls of the second page of a tab control; every other child of it is on the first.
+bool 第二頁(const 部品& p) {
+    return p.名前 == u"List付属書類" || p.名前 == u"btn_付属書類追加" ||
+           p.名前 == u"btn_付属書類削除" || p.名前 == u"btn_フォルダ";
+}
+
+QWidget* 作成(部品& p, QWidget* 親) {
+    switch (p.種別) {
+        case 部品種別::xField:
+        case 部品種別::xNum:
+        case 部品種別::xText: {
+            auto* e = new QLineEdit(親);
+            if (p.種別 == 部品種別::xNum) e->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            return e;
+        }
+        case 部品種別::xLabel: {
+            auto* l = new QLabel(親);
+            l->setAlignment(Qt::AlignCenter);
+            return l;
+        }
+        case 部品種別::SSPanel: {
+            auto* l = new QLabel(親);
+            l->setFrameStyle(QFrame::Panel | QFrame::Raised);
+            l->setAlignment(Qt::AlignCenter);
+            l->setAutoFillBackground(true);
+            return l;
+        }
+        case 部品種別::SSCommand:
+            return new QPushButton(親);
+        case 部品種別::SSTab:
+            return new QTabBar(親);
+        case 部品種別::ListView:
+            return new QTreeWidget(親);
+        case 部品種別::ComboBox:
+            return new QComboBox(親);
+        case 部品種別::CheckBox:
+            return new QCheckBox(親);
+        case 部品種別::VScrollBar:
+            return new QScrollBar(Qt::Vertical, 親);
+        case 部品種別::CommonDialog:
+            break;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+ScreenWindow::ScreenWindow(画面モデル& モデル, QWidget* 親) : QWidget(親), m(モデル) {
+    // The inner area: the full width, and down to the lowest control; the frame is the
+    // platform's own.
+    int 下端 = 0;
+    for (const 部品* p : m.全部品()) 下端 = qMax(下端, p->Top + p->Height);
+    setFixedSize(画素(m.Width), 画素(下端) + 4);
+    作る();
+    反映();
+}
+
+部品* ScreenWindow::部品へ(QWidget* w) const {
+    return 逆引き.value(w);
+}
+
+void ScreenWindow::作る() {
+    for (部品* p : m.全部品()) {
+        QWidget* w = 作成(*p, this);
+        if (!w) continue;
+        int 高さ = qMax(1, 画素(p->Height));
+        // A tab control draws only its tabs here; the pages are the controls laid over it.
+        if (p->種別 == 部品種別::SSTab) 高さ = 24;
+        w->setGeometry(画素(p->Left), 画素(p->Top), qMax(1, 画素(p->Width)), 高さ);
+        // The model keeps the traversal: Qt's own focus chain must not move the focus.
+        w->setFocusPolicy(p->TabIndex >= 0 || p->種別 == 部品種別::SSCommand ? Qt::ClickFocus
+                                                                             : Qt::NoFocus);
+        w->installEventFilter(this);
+        対応.insert(p, w);
+        逆引き.insert(w, p);
+        if (auto* b = qobject_cast<QPushButton*>(w)) {
+            b->setAutoDefault(false);
+            QObject::connect(b, &QPushButton::clicked, this,
+                             [this, p] { 操作([this, p] { m.操作_クリック(*p); }); });
+        } else if (auto* c = qobject_cast<QComboBox*>(w)) {
+            QObject::connect(c, &QComboBox::activated, this,
+                             [this, p](int i) { 操作([this, p, i] { m.操作_値変更(*p, i); }); });
+        } else if (auto* k = qobject_cast<QCheckBox*>(w)) {
+            QObject::connect(k, &QCheckBox::clicked, this, [this, p](bool 値) {
+                操作([this, p, 値] { m.操作_値変更(*p, 値 ? 1 : 0); });
+            });
+        } else if (auto* s = qobject_cast<QScrollBar*>(w)) {
+            QObject::connect(s, &QScrollBar::valueChanged, this, [this, p](int 値) {
+                if (!同期中) 操作([this, p, 値] { m.操作_値変更(*p, 値); });
+            });
+        } else if (auto* t = qobject_cast<QTabBar*>(w)) {
+            QObject::connect(t, &QTabBar::currentChanged, this, [this, p](int 値) {
+                if (!同期中) 操作([this, p, 値] { m.操作_値変更(*p, 値); });
+            });
+        }
+    }
+}
+
+bool ScreenWindow::見えるか(const 部品& p) const {
+    if (!p.Visible) return false;
+    if (p.親.isEmpty()) return true;
+    const 部品* 親 = m.探す(p.親, p.親.startsWith(u"bak_dtl") ? p.添字 : -1);
+    if (!親) return true;
+    if (親->種別 == 部品種別::SSTab && 親->Value != (第二頁(p) ? 1 : 0)) return false;
+    return 見えるか(*親);
+}
+
+void ScreenWindow::反映() {
+    同期中 = true;
+    setWindowTitle(m.Caption);
+    for (auto it = 対応.cbegin(); it != 対応.cend(); ++it) {
+        const 部品& p = *it.key();
+        QWidget* w = it.value();
+        const QSignalBlocker 止め(w);
+        w->setVisible(見えるか(p));
+        w->setEnabled(p.Enabled);
+        if (auto* e = qobject_cast<QLineEdit*>(w)) {
+            if (p.MaxLength > 0) e->setMaxLength(p.MaxLength);
+            if (e->text() != p.Text) e->setText(p.Text);
+            QPalette pal = e->palette();
+            pal.setColor(QPalette::Text, p.ForeColor < 0 ? palette().color(QPalette::Text)
+                                                         : QColor::fromRgb(p.ForeColor));
+            e->setPalette(pal);
+        } else if (auto* l = qobject_cast<QLabel*>(w)) {
+            l->setText(p.Caption);
+        } else if (auto* b = qobject_cast<QPushButton*>(w)) {
+            b->setText(p.Caption);
+        } else if (auto* c = qobject_cast<QComboBox*>(w)) {
+            QStringList 今;
+            for (int i = 0; i < c->count(); ++i) 今 << c->itemText(i);
+            if (今 != p.一覧) {
+                c->clear();
+                c->addItems(p.一覧);
+            }
+            c->setCurrentIndex(p.ListIndex);
+        } else if (auto* k = qobject_cast<QCheckBox*>(w)) {
+            k->setText(p.Caption);
+            k->setChecked(p.Value != 0);
+        } else if (auto* s = qobject_cast<QScrollBar*>(w)) {
+            s->setRange(p.Min, p.Max);
+            s->setPageStep(p.LargeChange);
+            s->setValue(p.Value);
+        } else if (auto* t = qobject_cast<QTabBar*>(w)) {
+            while (t->count() < p.一覧.size()) t->addTab(p.一覧.at(t->count()));
+            t->setCurrentIndex(p.Value);
+        }
+    }
+    if (部品* f = m.フォーカス()) {
+        if (QWidget* w = 対応.value(f); w && w != QApplication::focusWidget()) {
+            w->setFocus(Qt::OtherFocusReason);
+        }
+    }
+    同期中 = false;
+}
+
+void ScreenWindow::入力を渡す() {
+    部品* f = m.フォーカス();
+    if (!f) return;
+    if (auto* e = qobject_cast<QLineEdit*>(対応.value(f))) f->Text = e->text();
+}
+
+void ScreenWindow::操作(const std::function<void()>& 動作) {
+    if (同期中) return;
+    入力を渡す();
+    動作();
+    反映();
+}
+
+bool ScreenWindow::eventFilter(QObject* 対象, QEvent* 事象) {
+    auto* w = qobject_cast<QWidget*>(対象);
+    部品* p = w ? 逆引き.value(w) : nullptr;
+    if (!p || 同期中) return QWidget::eventFilter(対象, 事象);
+    switch (事象->type()) {
+        case QEvent::KeyPress: {
+            const auto* k = static_cast<QKeyEvent*>(事象);
+            const bool 一行欄 = qobject_cast<QLineEdit*>(w) != nullptr;
+            if (k->key() == Qt::Key_Tab || k->key() == Qt::Key_Backtab ||
+                (一行欄 && (k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter))) {
+                const bool 逆 = k->key() == Qt::Key_Backtab ||
+                                (k->key() == Qt::Key_Tab && (k->modifiers() & Qt::ShiftModifier));
+                操作([this, 逆] { 逆 ? m.操作_ShiftTab() : m.操作_Tab(); });
+                return true;
+            }
+            if (k->key() == Qt::Key_Control) 操作([this, p] { m.操作_キー(*p, 17); });
+            break;
+        }
+        case QEvent::FocusIn:
+            // The operator put the focus here by a click: the model decides where it may stay.
+            if (m.フォーカス() != p) 操作([this, p] { m.操作_フォーカス(*p); });
+            break;
+        case QEvent::MouseButtonDblClick:
+            操作([this, p] { m.操作_ダブルクリック(*p); });
+            break;
+        case QEvent::MouseButtonPress:
+            if (p->種別 == 部品種別::SSPanel || p->種別 == 部品種別::xLabel) {
+                操作([this, p] { m.操作_クリック(*p); });
+            }
+            break;
+        default:
+            break;
+    }
+    return QWidget::eventFilter(対象, 事象);
+}
+
+void ScreenWindow::closeEvent(QCloseEvent* e) {
+    if (閉じる時) 閉じる時();
+    e->accept();
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QHash>
+#include <QWidget>
+#include <functional>
+
+#include "screen/画面モデル.h"
+
+// Draws a screen model with Qt widgets, one widget per control at the control's place, and hands
+// what the operator does to the model. The model decides: after each operation every widget is
+// brought in step with it, the focus included.
+class ScreenWindow : public QWidget {
+  public:
+    explicit ScreenWindow(画面モデル& モデル, QWidget* 親 = nullptr);
+
+    // Brings every widget in step with the model.
+    void 反映();
+    QWidget* ウィジェット(const 部品& p) const { return 対応.value(&p); }
+    部品* 部品へ(QWidget* w) const;
+
+    std::function<void()> 閉じる時;
+
+  protected:
+    bool eventFilter(QObject* 対象, QEvent* 事象) override;
+    void closeEvent(QCloseEvent* e) override;
+
+  private:
+    void 作る();
+    // Runs an operator's action on the model: the text typed into the focused field goes to
+    // the model first, and the widgets follow the model afterwards.
+    void 操作(const std::function<void()>& 動作);
+    void 入力を渡す();
+    bool 見えるか(const 部品& p) const;
+
+    画面モデル& m;
+    QHash<const 部品*, QWidget*> 対応;
+    QHash<QWidget*, 部品*> 逆引き;
+    bool 同期中 = false;
+};

@@ -1,0 +1,188 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+
+#include "app/起動処理.h"
+#include "common/試験用ツリー.h"
+#include "text/台本プラットフォーム.h"
+#include "ui/入力画面ウィンドウ.h"
+
+namespace {
+
+// The real window on the sample tree, driven by real key and mouse events.
+class 入力画面ウィンドウ試験 : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
+        基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
+        s.データ.自身のフォルダ = 木.プログラムフォルダ();
+        画面.伝票読込 = [this] { 起動.伝票読込(); };
+        ASSERT_EQ(起動.プログラム開始(QString()), 起動結果::稼動);
+        窓 = 画面.窓();
+        ASSERT_NE(窓, nullptr);
+        QApplication::setActiveWindow(窓);
+        窓->反映();
+    }
+    void TearDown() override { 起動.終了処理(); }
+
+    部品& c(const QString& 名前, int 行 = -1) { return f.画面(名前, 行); }
+    QWidget* w(const QString& 名前, int 行 = -1) { return 窓->ウィジェット(c(名前, 行)); }
+    QString 焦点() const {
+        const 部品* p = f.画面.フォーカス();
+        return p ? p->名前 + (p->添字 < 0 ? QString() : QString::number(p->添字)) : QString();
+    }
+    // ASCII by key presses; Japanese as an input method commits it.
+    void 打つ(const QString& 文字列) {
+        QWidget* 先 = QApplication::focusWidget();
+        for (QChar ch : 文字列) {
+            if (ch.unicode() < 0x80) {
+                QTest::keyClick(先, ch.toLatin1());
+            } else {
+                QInputMethodEvent 確定;
+                確定.setCommitString(QString(ch));
+                QApplication::sendEvent(先, &確定);
+            }
+        }
+    }
+    void Tab() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); }
+    void 支払先までTab() {
+        for (int i = 0; i < 5 && f.画面.フォーカス()->名前 != u"支払先"; ++i) Tab();
+    }
+    // Every line edit shows what its control holds, and Qt's focus is the model's.
+    void 一致を確かめる() {
+        for (部品* p : f.画面.全部品()) {
+            if (auto* e = qobject_cast<QLineEdit*>(窓->ウィジェット(*p))) {
+                EXPECT_EQ(e->text(), p->Text) << p->名前.toStdString() << p->添字;
+            }
+        }
+        EXPECT_EQ(QApplication::focusWidget(), 窓->ウィジェット(*f.画面.フォーカス()));
+    }
+    void 写真(const QString& 名前) {
+        QDir().mkpath(QStringLiteral(KONPEKI_ARTIFACTS));
+        EXPECT_TRUE(
+            窓->grab().save(QStringLiteral(KONPEKI_ARTIFACTS) + u"/"_qs + 名前 + u".png"_qs));
+    }
+
+    試験用ツリー 木;
+    台本プラットフォーム 基盤;
+    出金セッション s{基盤};
+    frm紺碧帳 f{s};
+    入力画面ウィンドウ 画面{f};
+    紺碧帳起動 起動{s, 画面};
+    ScreenWindow* 窓 = nullptr;
+};
+
+TEST_F(入力画面ウィンドウ試験, 開くと担当者コードに焦点があり題名と幅は画面の通り) {
+    EXPECT_EQ(窓->windowTitle(), u"株式会社紺碧商事（紺碧帳）"_qs);
+    EXPECT_EQ(窓->width() * 15, 12375);
+    EXPECT_EQ(焦点(), u"担当者コード"_qs);
+    EXPECT_EQ(QApplication::focusWidget(), w(u"担当者コード"_qs));
+    EXPECT_EQ(static_cast<QLineEdit*>(w(u"出金No"_qs))->text(), u"00000001"_qs);
+    一致を確かめる();
+}
+
+TEST_F(入力画面ウィンドウ試験, 担当者と二行をキーで打つと画面と部品が揃う) {
+    打つ(u"3"_qs);
+    Tab();
+    EXPECT_EQ(s.見出し.担当者コード, u"00003"_qs);
+    EXPECT_EQ(static_cast<QLineEdit*>(w(u"担当者名"_qs))->text(), u"上田 健一"_qs);
+    EXPECT_EQ(焦点(), u"費目区分0"_qs);
+    for (int i = 0; i < 2; ++i) {
+        打つ(u"3"_qs);
+        Tab();
+        支払先までTab();
+        ASSERT_EQ(f.画面.フォーカス()->名前, u"支払先"_qs);
+        打つ(u"文具店"_qs);
+        Tab();
+        打つ(u"用紙"_qs);
+        Tab();
+        打つ(QString::number(1000 * (i + 1)));
+        Tab();
+    }
+    EXPECT_EQ(s.最終行, 1);
+    EXPECT_EQ(s.行[1].出金金額, 金額::円(2000));
+    EXPECT_EQ(s.行[1].摘要, u"用紙"_qs);
+    EXPECT_EQ(s.合計.出金金額合計, 金額::円(3000));
+    EXPECT_EQ(static_cast<QLineEdit*>(w(u"出金金額合計"_qs))->text(), u"3,000"_qs);
+    EXPECT_EQ(static_cast<QLineEdit*>(w(u"出金消費税"_qs, 1))->text(), u"200"_qs);
+    EXPECT_EQ(static_cast<QComboBox*>(w(u"費目区分名称"_qs, 0))->currentText(), u"消耗品費"_qs);
+    EXPECT_EQ(焦点(), u"費目区分2"_qs);
+    一致を確かめる();
+}
+
+TEST_F(入力画面ウィンドウ試験, エンターは一行欄でTabとして働く) {
+    打つ(u"3"_qs);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(s.見出し.担当者コード, u"00003"_qs);
+    EXPECT_EQ(焦点(), u"費目区分0"_qs);
+}
+
+TEST_F(入力画面ウィンドウ試験, 明細を押しても見出しの空きがあれば空きへ戻る) {
+    QTest::mouseClick(w(u"摘要"_qs, 2), Qt::LeftButton);
+    EXPECT_EQ(焦点(), u"担当者コード"_qs);
+    EXPECT_EQ(QApplication::focusWidget(), w(u"担当者コード"_qs));
+}
+
+TEST_F(入力画面ウィンドウ試験, 切替の釦で税別の枠が現れ戻る) {
+    QTest::mouseClick(w(u"btn_軽減税率切替"_qs), Qt::LeftButton);
+    EXPECT_TRUE(s.軽減税率表示);
+    EXPECT_TRUE(w(u"bak_税別合計"_qs)->isVisible());
+    EXPECT_TRUE(w(u"前回税率出金金額合計"_qs)->isVisible());
+    写真(u"軽減税率表示"_qs);
+    QTest::mouseClick(w(u"btn_通常表示切替"_qs), Qt::LeftButton);
+    EXPECT_FALSE(w(u"bak_税別合計"_qs)->isVisible());
+}
+
+TEST_F(入力画面ウィンドウ試験, 新規伝票の帯の中で部品は重ならない) {
+    写真(u"新規伝票"_qs);
+    // Containers hold others by design; the end controls stand off the working area.
+    QSet<QString> 入れ物;
+    for (部品* p : f.画面.全部品()) {
+        if (!p->親.isEmpty()) 入れ物.insert(p->親);
+    }
+    入れ物 << u"tab_詳細"_qs;
+    QList<QPair<部品*, QRect>> 見える;
+    for (部品* p : f.画面.全部品()) {
+        QWidget* x = 窓->ウィジェット(*p);
+        if (!x || !x->isVisible() || 入れ物.contains(p->名前) || p->Left < 0) continue;
+        見える.append({p, x->geometry()});
+    }
+    for (int i = 0; i < 見える.size(); ++i) {
+        for (int j = i + 1; j < 見える.size(); ++j) {
+            EXPECT_FALSE(見える[i].second.intersects(見える[j].second))
+                << 見える[i].first->名前.toStdString() << 見える[i].first->添字 << " / "
+                << 見える[j].first->名前.toStdString() << 見える[j].first->添字;
+        }
+    }
+}
+
+TEST_F(入力画面ウィンドウ試験, 七行の伝票は下へ送られて見える) {
+    打つ(u"3"_qs);
+    Tab();
+    for (int i = 0; i < 7; ++i) {
+        打つ(u"3"_qs);
+        Tab();
+        支払先までTab();
+        打つ(u"東京交通"_qs);
+        Tab();
+        打つ(u"タクシー代"_qs);
+        Tab();
+        打つ(QString::number(1000 + i));
+        Tab();
+    }
+    EXPECT_EQ(s.最終行, 6);
+    EXPECT_EQ(s.先頭行, 3);
+    auto* 棒 = w(u"scl_行"_qs);
+    EXPECT_TRUE(棒->isEnabled());
+    EXPECT_EQ(static_cast<QLineEdit*>(w(u"出金金額"_qs, 3))->text(), u"1006"_qs);
+    一致を確かめる();
+    写真(u"七行"_qs);
+}
+
+}  // namespace
