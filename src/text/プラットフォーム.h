@@ -37,6 +37,8 @@ class プラットフォーム {
     // the enabling of a window as a whole.
     virtual void 画面表示(const QString& 画面名, bool モーダル) = 0;
     virtual void 画面使用可否(const QString& 画面名, bool 可) = 0;
+    // Brings the program's active window to the top of the desktop.
+    virtual void 最前面表示() = 0;
     // The modeless "please wait" window, shown while files are copied or a slip is stored.
     virtual void お待ち表示(bool 表示) = 0;
     virtual bool 文書を開く(const QString& パス, const QString& 作業フォルダ) = 0;

@@ -22,6 +22,7 @@ class 台本プラットフォーム : public プラットフォーム {
     QStringList 開いた文書;
     QDateTime 時刻 = QDateTime(QDate(2026, 4, 1), QTime(9, 0, 0));
     int イベント処理回数 = 0;
+    int 最前面回数 = 0;
     QList<bool> お待ち履歴;
     QList<QPair<QString, bool>> 表示画面;   // every window shown, with its modality
     QList<QPair<QString, bool>> 使用可否;   // every enabling or disabling of a window
@@ -37,6 +38,7 @@ class 台本プラットフォーム : public プラットフォーム {
         if (画面表示時) 画面表示時(画面名);
     }
     void 画面使用可否(const QString& 画面名, bool 可) override { 使用可否.append({画面名, 可}); }
+    void 最前面表示() override { ++最前面回数; }
     bool 文書を開く(const QString& パス, const QString& 作業フォルダ) override;
     bool プログラム起動(const QString& プログラム, const QStringList& 引数,
                         const QString& 作業フォルダ) override;

@@ -117,3 +117,10 @@ void Qtプラットフォーム::画面表示(const QString& 画面名, bool) {
 void Qtプラットフォーム::画面使用可否(const QString&, bool) {
     // Nothing to enable or disable while the list windows themselves are not drawn.
 }
+
+void Qtプラットフォーム::最前面表示() {
+    if (QWidget* w = QApplication::activeWindow()) {
+        w->raise();
+        w->activateWindow();
+    }
+}

@@ -14,6 +14,7 @@ class Qtプラットフォーム : public プラットフォーム {
     void お待ち表示(bool 表示) override;
     void 画面表示(const QString& 画面名, bool モーダル) override;
     void 画面使用可否(const QString& 画面名, bool 可) override;
+    void 最前面表示() override;
     bool 文書を開く(const QString& パス, const QString& 作業フォルダ) override;
     bool プログラム起動(const QString& プログラム, const QStringList& 引数,
                         const QString& 作業フォルダ) override;
