@@ -3,6 +3,7 @@
 
 #include "rules/消費税計算.h"
 #include "screen/次項目補正.h"
+#include "text/プラットフォーム.h"
 #include "text/数値書式.h"
 
 namespace {
@@ -44,6 +45,13 @@ QString 金額表示(const 金額& 額) {
 frm紺碧帳::frm紺碧帳(出金セッション& セッション) : s(セッション) {
     部品を作る();
     事象を結ぶ();
+    // A run-time error (an overflow, a date beyond the calendar) ends the operation the event
+    // started, never the program: the operator is told, and the screen listens again.
+    画面.異常時 = [this](const std::exception& e) {
+        s.画面表示中フラグ = false;
+        画面使用中 = false;
+        s.データ.基盤.メッセージ(QString::fromUtf8(e.what()));
+    };
 }
 
 void frm紺碧帳::事象を結ぶ() {

@@ -23,17 +23,6 @@ int 一覧位置(int 位置, const 部品& 一覧) {
     return 位置 >= 0 && 位置 < 一覧.一覧.size() ? 位置 : -1;
 }
 
-// An arithmetic failure ends the operation that the event started, never the program.
-template <class F>
-void 失敗を受け止める(出金セッション& s, F&& 処理) {
-    try {
-        処理();
-    } catch (const 実行時エラー& e) {
-        s.画面表示中フラグ = false;  // a display cut short must not leave the screen deaf
-        s.データ.基盤.メッセージ(QString::fromUtf8(e.what()));
-    }
-}
-
 }  // namespace
 
 void frm紺碧帳::明細事象を結ぶ() {
@@ -50,7 +39,7 @@ void frm紺碧帳::明細離脱(部品& p) {
     if (s.画面表示中フラグ || 画面使用中) return;
     const int r = p.添字;
     if (r < 0 || r != s.表示行) return;
-    失敗を受け止める(s, [&] {
+    {
         const QString& 名 = p.名前;
         enum { 行と合計, 行だけ, なし } 再表示 = 行と合計;
         bool 変更 = false;
@@ -83,7 +72,7 @@ void frm紺碧帳::明細離脱(部品& p) {
         if (再表示 != なし) 明細行表示(s.先頭行 + r, r);
         if (再表示 == 行と合計) 合計表示();
         画面(u"お知らせ"_qs).Caption = s.お知らせ文言;
-    });
+    }
 }
 
 bool frm紺碧帳::費目区分確定(int 行, int 区分) {
@@ -305,8 +294,8 @@ void frm紺碧帳::摘要一覧(int 行) {
     // A pick leaves the chosen line's key behind: "C", office, base date, number, line id.
     if (s.一覧条件文字列.isEmpty()) return;
     const int 明細 = s.先頭行 + 行;
-    失敗を受け止める(s, [&] {
+    {
         s.過去明細取込(s.一覧条件文字列.mid(1), 明細);
         明細行表示(明細, 行);
-    });
+    }
 }

@@ -41,12 +41,25 @@ void 画面モデル::SetFocus(部品& 先) {
     待ちを処理();
 }
 
+void 画面モデル::呼ぶ(const std::function<void()>& 事象) {
+    if (!事象) return;
+    if (!異常時) {
+        事象();
+        return;
+    }
+    try {
+        事象();
+    } catch (const std::exception& e) {
+        異常時(e);
+    }
+}
+
 void 画面モデル::移す(部品* 先) {
     if (!先 || 先 == 現在 || !先->入力可能()) return;
     部品* 元 = 現在;
     現在 = 先;
-    if (元 && 元->LostFocus) 元->LostFocus();
-    if (先->GotFocus) 先->GotFocus();
+    if (元) 呼ぶ(元->LostFocus);
+    呼ぶ(先->GotFocus);
 }
 
 // Delivers the queued focus moves one after another; a move queued while another is being
@@ -54,10 +67,16 @@ void 画面モデル::移す(部品* 先) {
 void 画面モデル::待ちを処理() {
     if (処理中) return;
     処理中 = true;
+    // An error passed on to the caller must not leave the queue blocked.
+    struct 後始末 {
+        画面モデル& m;
+        ~後始末() {
+            m.待ち.clear();
+            m.処理中 = false;
+        }
+    } 終わり{*this};
     int 安全弁 = 0;
     while (!待ち.isEmpty() && ++安全弁 < 1000) 移す(待ち.dequeue());
-    待ち.clear();
-    処理中 = false;
 }
 
 void 画面モデル::操作_フォーカス(部品& 先) {
@@ -71,7 +90,7 @@ void 画面モデル::操作_入力(部品& 先, const QString& 文字列) {
     QString 値 = 文字列;
     if (先.MaxLength > 0) 値.truncate(先.MaxLength);
     先.Text = 値;
-    if (先.Change) 先.Change();
+    呼ぶ(先.Change);
     待ちを処理();
 }
 
@@ -108,20 +127,20 @@ void 画面モデル::操作_クリック(部品& 先) {
     if (!先.Enabled || !先.Visible) return;
     // A button takes the focus before its click runs, as a mouse press gives it.
     if (先.種別 == 部品種別::SSCommand && 先.TabStop) 操作_フォーカス(先);
-    if (先.Click) 先.Click();
+    呼ぶ(先.Click);
     待ちを処理();
 }
 
 void 画面モデル::操作_ダブルクリック(部品& 先) {
     if (!先.Enabled || !先.Visible) return;
     if (現在 != &先 && 先.入力可能()) 操作_フォーカス(先);
-    if (先.DblClick) 先.DblClick();
+    呼ぶ(先.DblClick);
     待ちを処理();
 }
 
 void 画面モデル::操作_キー(部品& 先, int キーコード) {
     if (現在 != &先) 操作_フォーカス(先);
-    if (先.KeyDown) 先.KeyDown(キーコード);
+    if (先.KeyDown) 呼ぶ([&] { 先.KeyDown(キーコード); });
     待ちを処理();
 }
 
@@ -133,7 +152,7 @@ void 画面モデル::操作_値変更(部品& 先, int 値) {
     } else {
         先.Value = 値;
     }
-    if (先.Change) 先.Change();
-    if (先.Click) 先.Click();
+    呼ぶ(先.Change);
+    呼ぶ(先.Click);
     待ちを処理();
 }

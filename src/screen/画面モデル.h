@@ -3,6 +3,8 @@
 #include <QList>
 #include <QQueue>
 #include <QString>
+#include <exception>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -42,10 +44,16 @@ class 画面モデル {
     void 操作_キー(部品& 先, int キーコード);
     void 操作_値変更(部品& 先, int 値);  // a scroll bar, check box, tab page or list position
 
+    // Called when an event ends in a run-time error (an overflow, a date beyond the calendar):
+    // the operation is abandoned there and the screen goes on. Without a handler the error
+    // passes to the caller.
+    std::function<void(const std::exception&)> 異常時;
+
     // The next or previous control in tab order that is visible, enabled and a tab stop.
     部品* 次のタブ(const 部品* 起点, bool 逆) const;
 
   private:
+    void 呼ぶ(const std::function<void()>& 事象);
     void 移す(部品* 先);
     void 待ちを処理();
     bool 処理中 = false;

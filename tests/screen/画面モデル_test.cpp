@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "screen/画面モデル.h"
+#include "text/実行時エラー.h"
 
 namespace {
 
@@ -91,6 +92,34 @@ TEST(画面モデル, 配列は名前と添字で引けて全部品は作った�
     EXPECT_EQ(種別名(m.全部品()[2]->種別), u"ComboBox"_qs);
     m.操作_値変更(*m.探す(u"単"_qs), 1);
     EXPECT_EQ(m.探す(u"単"_qs)->ListIndex, 1);
+}
+
+}  // namespace
+
+namespace {
+
+TEST(画面モデル, 事象の実行時エラーは受け手に渡り後のフォーカス移動は止まらない) {
+    三項目 t;
+    QStringList 受けた;
+    t.m.異常時 = [&](const std::exception& e) { 受けた << QString::fromUtf8(e.what()); };
+    t.b.LostFocus = [&] { throw 桁あふれ(); };
+    t.m.操作_フォーカス(t.b);
+    t.m.操作_Tab();
+    EXPECT_EQ(受けた, QStringList{u"オーバーフローしました。"_qs});
+    EXPECT_EQ(t.m.フォーカス(), &t.c);
+    t.m.操作_Tab();
+    EXPECT_EQ(t.m.フォーカス(), &t.a);
+}
+
+TEST(画面モデル, 受け手がなければ実行時エラーは呼び手に渡り待ち行列は空になる) {
+    三項目 t;
+    t.a.GotFocus = [&] {
+        t.m.SetFocus(t.b);
+        throw 桁あふれ();
+    };
+    EXPECT_THROW(t.m.操作_フォーカス(t.a), 桁あふれ);
+    t.m.操作_フォーカス(t.c);
+    EXPECT_EQ(t.m.フォーカス(), &t.c);
 }
 
 }  // namespace
