@@ -301,7 +301,3 @@ void frm紺碧帳::フォーカス設定(部品& 対象) {
     部品* 先 = 次項目補正(画面, &対象);
     if (先->Enabled && 先->TabStop) 画面.SetFocus(*先);
 }
-
-QString frm紺碧帳::報告用お知らせ() const {
-    return 画面.探す(u"お知らせ"_qs)->Caption;
-}

@@ -46,7 +46,6 @@ class frm紺碧帳 {
     int 見出し空き() const;          // ordinal of the header's first empty required item
     int 明細空き(int 明細) const;    // 1 when the line has no expense class
     部品& 見出し項目(int 序数);      // the header item of an ordinal
-    QString 報告用お知らせ() const;  // what the notice panel shows
 
     // Header fields.
     bool 出金日付更新(int 部分, const QString& 文字列);  // 0 year, 1 month, 2 day
