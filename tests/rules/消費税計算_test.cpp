@@ -3,7 +3,7 @@
 #include <limits>
 #include <vector>
 
-#include "common/試験用ツリー.h"
+#include "common/エンジン別試験.h"
 #include "dataenv/データ環境.h"
 #include "rules/消費税計算.h"
 #include "text/台本プラットフォーム.h"
@@ -325,18 +325,12 @@ TEST(税の再計算, 不明な費目区分は外税にするだけで手入力�
 
 // ---- with G消費税 of the sample company (3%, 5%, 8%, and 10% opening two rates) ----
 
-class 税率表 : public ::testing::TestWithParam<bool> {
+class 税率表 : public エンジン別試験 {
   protected:
     void SetUp() override {
-        if (GetParam()) {
-            if (!試験用PostgreSQL::利用可能()) GTEST_SKIP() << "KONPEKI_TEST_PG is not set";
-            pg = std::make_unique<試験用PostgreSQL>();
-        }
-        木 = std::make_unique<試験用ツリー>(pg ? pg->接続情報() : QString());
-        ASSERT_TRUE(木->作成済み) << 木->エラー.toStdString();
-        環境.自身のフォルダ = 木->プログラムフォルダ();
-        ASSERT_TRUE(環境.SYB_OPEN());
-        ASSERT_TRUE(環境.DB_OPEN());
+        エンジン別試験::SetUp();
+        if (IsSkipped() || HasFatalFailure()) return;
+        開く();
         ASSERT_TRUE(環境.基本項目読込());
     }
     void 実行(const QString& 文) { ASSERT_TRUE(木->業務DB実行(文)) << 文.toStdString(); }
@@ -344,22 +338,14 @@ class 税率表 : public ::testing::TestWithParam<bool> {
         return 消費税率取得(環境, QString::fromLatin1(日付), 選択);
     }
     税率情報 情報(const char* 日付) { return 税率情報取得(環境, QString::fromLatin1(日付)); }
-    QStringList 履歴() {
+    QStringList 摘要一覧() {
         QStringList 摘要;
-        for (const auto& 行 : 木->環境DB行(u"SELECT 摘要 FROM プログラム稼動履歴"_qs))
-            摘要 << 行[0].toString();
+        for (const auto& 行 : 履歴()) 摘要 << 行[1].toString();
         return 摘要;
     }
-
-    std::unique_ptr<試験用PostgreSQL> pg;
-    std::unique_ptr<試験用ツリー> 木;
-    台本プラットフォーム 基盤;
-    データ環境 環境{基盤};
 };
 
-INSTANTIATE_TEST_SUITE_P(エンジン, 税率表, ::testing::Values(false, true), [](const auto& 情報) {
-    return std::string(情報.param ? "PostgreSQL" : "SQLite");
-});
+KONPEKI_両エンジンで(税率表);
 
 TEST_P(税率表, 施行日の当日からその行の税率) {
     EXPECT_EQ(税率("20191001"), 円(10));
@@ -455,7 +441,7 @@ TEST_P(税率表, 読み取りは稼動履歴に残らない) {
     税率("20240101");
     税率("20240101", 2);
     情報("20240101");
-    for (const QString& 摘要 : 履歴())
+    for (const QString& 摘要 : 摘要一覧())
         EXPECT_FALSE(摘要.contains(u"G消費税"_qs)) << 摘要.toStdString();
 }
 
@@ -467,7 +453,7 @@ TEST_P(税率表, 文のない方言では照会せず税率0) {
     EXPECT_EQ(i.今回税率, 円(0));
     EXPECT_EQ(i.前回税率, 円(0));
     EXPECT_TRUE(i.施行日.isEmpty());
-    for (const QString& 摘要 : 履歴()) EXPECT_FALSE(摘要.contains(u"G消費税"_qs));
+    for (const QString& 摘要 : 摘要一覧()) EXPECT_FALSE(摘要.contains(u"G消費税"_qs));
 }
 
 TEST_P(税率表, 各方言の記号で照会する) {
