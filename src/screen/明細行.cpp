@@ -23,6 +23,17 @@ int 一覧位置(int 位置, const 部品& 一覧) {
     return 位置 >= 0 && 位置 < 一覧.一覧.size() ? 位置 : -1;
 }
 
+// A changed value marks the slip changed; the line's amounts follow and the totals are added up
+// again. The same value changes nothing.
+template <class T, class F>
+bool 税額欄確定(出金セッション& s, const T& 現在, const T& 新, F&& 再計算) {
+    if (新 == 現在) return false;
+    s.入力変更フラグ = true;
+    再計算();
+    s.合計再計算();
+    return true;
+}
+
 }  // namespace
 
 void frm紺碧帳::明細事象を結ぶ() {
@@ -108,29 +119,18 @@ bool frm紺碧帳::費目区分確定(int 行, int 区分) {
 
 bool frm紺碧帳::内税外税区分確定(int 行, int 区分) {
     出金行& l = s.行[s.先頭行 + 行];
-    if (区分 == l.内税外税区分) return false;
-    s.入力変更フラグ = true;
-    内税外税区分変更時再計算(l, 小整数へ(区分));
-    s.合計再計算();
-    return true;
+    return 税額欄確定(s, static_cast<int>(l.内税外税区分), 区分,
+                      [&] { 内税外税区分変更時再計算(l, 小整数へ(区分)); });
 }
 
 bool frm紺碧帳::消費税率確定(int 行, const 金額& 率) {
     出金行& l = s.行[s.先頭行 + 行];
-    if (率 == l.消費税率) return false;
-    s.入力変更フラグ = true;
-    消費税率変更時再計算(l, 率);
-    s.合計再計算();
-    return true;
+    return 税額欄確定(s, l.消費税率, 率, [&] { 消費税率変更時再計算(l, 率); });
 }
 
 bool frm紺碧帳::出金金額確定(int 行, const 金額& 額) {
     出金行& l = s.行[s.先頭行 + 行];
-    if (額 == l.出金金額) return false;
-    s.入力変更フラグ = true;
-    出金金額変更時再計算(l, 額);
-    s.合計再計算();
-    return true;
+    return 税額欄確定(s, l.出金金額, 額, [&] { 出金金額変更時再計算(l, 額); });
 }
 
 bool frm紺碧帳::出金消費税確定(int 行, const 金額& 税) {
