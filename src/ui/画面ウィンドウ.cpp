@@ -137,10 +137,13 @@ void ScreenWindow::反映() {
         if (auto* e = qobject_cast<QLineEdit*>(w)) {
             if (p.MaxLength > 0) e->setMaxLength(p.MaxLength);
             if (e->text() != p.Text) e->setText(p.Text);
-            QPalette pal = e->palette();
-            pal.setColor(QPalette::Text, p.ForeColor < 0 ? palette().color(QPalette::Text)
-                                                         : QColor::fromRgb(p.ForeColor));
-            e->setPalette(pal);
+            const QColor 色 =
+                p.ForeColor < 0 ? palette().color(QPalette::Text) : QColor::fromRgb(p.ForeColor);
+            if (e->palette().color(QPalette::Text) != 色) {
+                QPalette pal = e->palette();
+                pal.setColor(QPalette::Text, 色);
+                e->setPalette(pal);
+            }
         } else if (auto* l = qobject_cast<QLabel*>(w)) {
             l->setText(p.Caption);
         } else if (auto* b = qobject_cast<QPushButton*>(w)) {
