@@ -1,40 +1,15 @@
 #include "screen/frm紺碧帳.h"
+
 #include <QFile>
 
+#include "dataenv/ファイル操作.h"
 #include "rules/消費税計算.h"
 #include "screen/次項目補正.h"
 #include "text/プラットフォーム.h"
 #include "text/数値書式.h"
+#include "text/項目編集.h"
 
 namespace {
-
-struct 項目位置 {
-    const char16_t* 名前;
-    int 区分;
-    int 序数;
-};
-
-// Section and ordinal of the header and tail items for the order guard.
-const 項目位置 見出し項目表[] = {
-    {u"出金日付年", 1, 1},    {u"出金日付月", 1, 2},   {u"出金日付日", 1, 3},
-    {u"出金No", 1, 4},        {u"担当者コード", 1, 5}, {u"担当者名", 1, 6},
-    {u"部門コード", 1, 6},    {u"部門名", 1, 7},       {u"セクションコード", 1, 7},
-    {u"出張申請No", 1, 7},    {u"セクション名", 1, 8}, {u"出金伝票備考A", 3, 1},
-    {u"出金伝票備考B", 3, 1},
-};
-
-// Row items: the expense class and its list may be entered on an empty line, the rest not.
-const 項目位置 明細項目表[] = {
-    {u"費目区分", 2, 1},           {u"費目区分名称", 2, 1}, {u"内税外税区分", 2, 2},
-    {u"内税外税区分名称", 2, 2},   {u"支払先", 2, 2},       {u"摘要", 2, 2},
-    {u"消費税率", 2, 2},           {u"出金金額", 2, 2},     {u"出金消費税", 2, 2},
-    {u"chb_課税事業所区分", 2, 2},
-};
-
-bool 入力欄(const 部品& p) {
-    return p.種別 == 部品種別::xField || p.種別 == 部品種別::xNum || p.種別 == 部品種別::xText ||
-           p.種別 == 部品種別::ComboBox || p.種別 == 部品種別::CheckBox;
-}
 
 QString 金額表示(const 金額& 額) {
     return 書式(額, u"#,###,###,##0");
@@ -43,7 +18,7 @@ QString 金額表示(const 金額& 額) {
 }  // namespace
 
 frm紺碧帳::frm紺碧帳(出金セッション& セッション) : s(セッション) {
-    部品を作る();
+    画面.作る(部品定義表);
     事象を結ぶ();
     // A run-time error (an overflow, a date beyond the calendar) ends the operation the event
     // started, never the program: the operator is told, and the screen listens again.
@@ -54,33 +29,31 @@ frm紺碧帳::frm紺碧帳(出金セッション& セッション) : s(セッシ
     };
 }
 
+// Got focus runs the order guard with the item's section and ordinal; lost focus commits.
+void frm紺碧帳::項目事象を結ぶ(部品& 項目) {
+    部品* p = &項目;
+    p->GotFocus = [this, p] {
+        if (s.画面表示中フラグ) return;
+        s.入力中項目 = p;
+        入力順序確認(p->定義.区分, p->添字, p->名前, p->定義.序数);
+    };
+    p->LostFocus = [this, p] {
+        if (s.画面表示中フラグ) return;
+        s.離脱項目 = p;
+        if (p->定義.区分 == 2) {
+            明細離脱(*p);
+        } else {
+            見出し離脱(*p);
+        }
+    };
+}
+
 void frm紺碧帳::事象を結ぶ() {
     for (部品* p : 画面.全部品()) {
-        const int r = p->添字;
-        for (const auto& 項 : 見出し項目表) {
-            if (p->名前 != QString::fromUtf16(項.名前)) continue;
-            p->GotFocus = [this, p, 項] {
-                if (s.画面表示中フラグ) return;
-                入力中項目 = p;
-                入力順序確認(項.区分, -1, p->名前, 項.序数);
-            };
-            p->LostFocus = [this, p] {
-                if (s.画面表示中フラグ) return;
-                離脱項目 = p;
-                見出し離脱(*p);
-            };
-        }
-        for (const auto& 項 : 明細項目表) {
-            if (p->名前 != QString::fromUtf16(項.名前)) continue;
-            p->GotFocus = [this, p, r, 項] {
-                if (s.画面表示中フラグ) return;
-                入力中項目 = p;
-                入力順序確認(2, r, p->名前, 項.序数);
-            };
-            p->LostFocus = [this, p] {
-                if (s.画面表示中フラグ) return;
-                離脱項目 = p;
-                明細離脱(*p);
+        if (p->定義.区分 != 0) 項目事象を結ぶ(*p);
+        if (*p->定義.結び) {
+            p->Click = [this, p] {
+                if (!s.画面表示中フラグ) 題クリック(*p);
             };
         }
     }
@@ -94,7 +67,7 @@ void frm紺碧帳::事象を結ぶ() {
         for (const char16_t* 枠 : {u"bak_dtla", u"bak_dtlb"}) {
             画面(QString::fromUtf16(枠), r).Click = [this, r] {
                 if (s.画面表示中フラグ) return;
-                if (!入力順序確認(2, r, QString(), 1) && 離脱項目) 画面.SetFocus(*離脱項目);
+                if (!入力順序確認(2, r, QString(), 1) && s.離脱項目) 画面.SetFocus(*s.離脱項目);
             };
         }
     }
@@ -107,11 +80,11 @@ void frm紺碧帳::事象を結ぶ() {
     画面(u"scl_行"_qs).Change = [this] {
         if (!s.画面表示中フラグ) スクロール変更();
     };
-    画面(u"itm_ttl_出金日付"_qs).Click = [this] {
-        if (!s.画面表示中フラグ) 画面(u"出金日付年"_qs).GotFocus();
-    };
     画面(u"prg_ttl"_qs).Click = [this] {
-        if (!s.画面表示中フラグ && 離脱項目) 画面.SetFocus(*離脱項目);
+        if (!s.画面表示中フラグ && s.離脱項目) 画面.SetFocus(*s.離脱項目);
+    };
+    画面(u"manualpanel"_qs).Click = [this] {
+        if (!s.画面表示中フラグ) マニュアル表示();
     };
     画面(u"btn_軽減税率切替"_qs).Click = [this] {
         if (s.画面表示中フラグ || 画面使用中) return;
@@ -132,15 +105,10 @@ void frm紺碧帳::事象を結ぶ() {
             if (!s.画面表示中フラグ && キー == 17) 一覧を開く(名前);
         };
         if (名前 != u"出張申請No") {
-            p.DblClick = [this, 名前] {
+            p.DblClick = [this, &p] {
                 if (s.画面表示中フラグ) return;
-                for (const auto& 項 : 見出し項目表) {
-                    if (名前 == QString::fromUtf16(項.名前) &&
-                        入力順序確認(項.区分, -1, 名前, 項.序数)) {
-                        return;
-                    }
-                }
-                一覧を開く(名前);
+                if (入力順序確認(p.定義.区分, -1, p.名前, p.定義.序数)) return;
+                一覧を開く(p.名前);
             };
         }
         画面(u"btn_"_qs + 名前).Click = [this, 名前] {
@@ -167,6 +135,18 @@ void frm紺碧帳::事象を結ぶ() {
     明細事象を結ぶ();
 }
 
+void frm紺碧帳::題クリック(const 部品& 題) {
+    const QString 名前 = QString::fromUtf16(題.定義.結び);
+    部品* 項目 = 画面.探す(名前);
+    if (!項目) 項目 = 画面.探す(名前, s.表示行);
+    if (項目 && 項目->GotFocus) 項目->GotFocus();
+}
+
+void frm紺碧帳::マニュアル表示() {
+    const QString フォルダ = s.データ.環境.マニュアルフォルダ;
+    ファイル実行(フォルダ + u"/"_qs + 文字種変換(u"紺碧帳"_qs) + u".doc"_qs, s.データ.基盤);
+}
+
 void frm紺碧帳::画面読込(const std::function<void()>& 伝票読込) {
     画面初期配置();
     if (伝票読込) 伝票読込();
@@ -185,13 +165,10 @@ void frm紺碧帳::画面初期配置() {
     行棒.LargeChange = 5;
     行棒.Enabled = false;
     行棒.Value = 0;
-    画面(u"出金No"_qs).MaxLength = 8;
-    画面(u"担当者コード"_qs).MaxLength = 5;
-    画面(u"部門コード"_qs).MaxLength = 3;
-    画面(u"セクションコード"_qs).MaxLength = 3;
+    // The lengths of the number and code fields (8, 5, 3, 3) come with the control table.
     一覧を埋める();
-    先頭入力項目 = &画面(u"担当者コード"_qs);
-    入力中項目 = 離脱項目 = 先頭入力項目;
+    s.先頭入力項目 = &画面(u"担当者コード"_qs);
+    s.入力中項目 = s.離脱項目 = s.先頭入力項目;
 }
 
 void frm紺碧帳::一覧を埋める() {

@@ -12,15 +12,13 @@ class frm紺碧帳 {
   public:
     explicit frm紺碧帳(出金セッション& セッション);
 
+    // Everything static of each control: class, caption, place, tab order, limits, page and
+    // its place in the order guard.
+    static const 部品表 部品定義表;
+
     出金セッション& s;
     画面モデル 画面{u"frm紺碧帳"_qs};
 
-    // Hand-over values between the events, the guard and the list windows.
-    部品* 入力中項目 = nullptr;
-    部品* 離脱項目 = nullptr;
-    部品* 先頭入力項目 = nullptr;
-    部品* 一覧設定先項目 = nullptr;
-    部品* 一覧設定先名称項目 = nullptr;
     bool 費目区分不正 = false;  // the last expense class typed was not a class
     bool 画面使用中 = false;    // a modal window of this screen is up
 
@@ -43,9 +41,13 @@ class frm紺碧帳 {
     void ボタン状態更新();
     bool 必須項目確認(int& 区分, int& 行, int& 序数);
     bool 必須項目案内();
-    int 見出し空き() const;          // ordinal of the header's first empty required item
-    int 明細空き(int 明細) const;    // 1 when the line has no expense class
-    部品& 見出し項目(int 序数);      // the header item of an ordinal
+    int 見出し空き() const;        // ordinal of the header's first empty required item
+    int 明細空き(int 明細) const;  // 1 when the line has no expense class
+    部品& 見出し項目(int 序数);    // the header's required item of an ordinal
+    // A click on a title panel: the got-focus of the item it stands for (in the current row).
+    void 題クリック(const 部品& 題);
+    // manualpanel: the program's manual, named by the program ID, in the manual folder.
+    void マニュアル表示();
 
     // Header fields.
     bool 出金日付更新(int 部分, const QString& 文字列);  // 0 year, 1 month, 2 day
@@ -73,8 +75,8 @@ class frm紺碧帳 {
     void 摘要一覧(int 行);
 
   private:
-    void 部品を作る();
     void 事象を結ぶ();
+    void 項目事象を結ぶ(部品& p);
     void 明細事象を結ぶ();
     void 一覧を埋める();
     void 見出し離脱(部品& p);

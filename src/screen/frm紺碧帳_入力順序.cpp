@@ -2,9 +2,6 @@
 
 namespace {
 
-const char16_t* const 見出し必須[] = {u"出金日付年",   u"出金日付月", u"出金日付日",      u"出金No",
-                                      u"担当者コード", u"部門コード", u"セクションコード"};
-
 // Items a detail row can be given the focus by name.
 const QStringList 明細名指し = {u"費目区分"_qs, u"費目区分名称"_qs, u"内税外税区分"_qs,
                                 u"出金金額"_qs, u"出金消費税"_qs,   u"摘要"_qs};
@@ -22,11 +19,15 @@ int frm紺碧帳::見出し空き() const {
 }
 
 int frm紺碧帳::明細空き(int 明細) const {
+    if (明細 < 0 || 明細 >= 最大行数) return 0;  // no line there to be missing
     return s.行[明細].費目区分 == 0 ? 1 : 0;
 }
 
 部品& frm紺碧帳::見出し項目(int 序数) {
-    return 画面(QString::fromUtf16(見出し必須[qBound(1, 序数, 7) - 1]));
+    for (部品* p : 画面.全部品()) {
+        if (p->定義.区分 == 1 && p->定義.必須 && p->定義.序数 == 序数) return *p;
+    }
+    return 画面(u"出金日付年"_qs);
 }
 
 void frm紺碧帳::名前で移す(const QString& 名前, int 行) {
@@ -52,12 +53,12 @@ bool frm紺碧帳::入力順序確認(int 区分, int 行, const QString& 項目
         } else {
             // The name fields take no Tab stop and pass the focus on.
             QString 先 = 項目名;
-            const QString 元 = 離脱項目 ? 離脱項目->名前 : QString();
+            const QString 元 = s.離脱項目 ? s.離脱項目->名前 : QString();
             if (項目名 == u"担当者名" && 元 != u"担当者コード") 先 = u"担当者コード"_qs;
             if (項目名 == u"部門名")
                 先 = 元 != u"部門コード" ? u"部門コード"_qs : u"セクションコード"_qs;
             if (項目名 == u"セクション名" && 元 != u"セクションコード") 先 = u"セクションコード"_qs;
-            if (!入力中項目 || 先 != 入力中項目->名前) 名前で移す(先);
+            if (!s.入力中項目 || 先 != s.入力中項目->名前) 名前で移す(先);
         }
     } else if (区分 == 2) {
         if (空き != 0) {
@@ -72,7 +73,7 @@ bool frm紺碧帳::入力順序確認(int 区分, int 行, const QString& 項目
                 const int g = 明細空き(行 + s.先頭行);
                 if (g == 0 || 序数 <= g) {
                     const bool 同じ =
-                        入力中項目 && 入力中項目->名前 == 項目名 && 入力中項目->添字 == 行;
+                        s.入力中項目 && s.入力中項目->名前 == 項目名 && s.入力中項目->添字 == 行;
                     if (!項目名.isEmpty() && !同じ && 明細名指し.contains(項目名))
                         名前で移す(項目名, 行);
                 } else {
@@ -159,13 +160,13 @@ void frm紺碧帳::ボタン状態更新() {
 
 void frm紺碧帳::ヘッド終了取得() {
     if (const int g = 見出し空き(); g != 0) {
-        入力中項目 = &画面(u"ヘッド終了"_qs);
+        s.入力中項目 = &画面(u"ヘッド終了"_qs);
         画面.SetFocus(見出し項目(g));
         return;
     }
     部品& タブ = 画面(u"tab_詳細"_qs);
     タブ.Enabled = true;
-    const bool 前へ = 離脱項目 && 離脱項目->名前 == u"担当者コード";
+    const bool 前へ = s.離脱項目 && s.離脱項目->名前 == u"担当者コード";
     if (タブ.Value == 1) {
         画面.SetFocus(画面(u"List付属書類"_qs));
     } else if (前へ) {
@@ -173,14 +174,14 @@ void frm紺碧帳::ヘッド終了取得() {
     } else {
         if (s.最終行 > 4) {
             部品& 棒 = 画面(u"scl_行"_qs);
-            画面.操作_値変更(棒, 棒.Value - 1);
+            画面.値設定(棒, 棒.Value - 1);
         }
         画面.SetFocus(画面(u"摘要"_qs, 0));
     }
 }
 
 void frm紺碧帳::頁1終了取得(int r) {
-    const QString 元 = 離脱項目 ? 離脱項目->名前 : QString();
+    const QString 元 = s.離脱項目 ? s.離脱項目->名前 : QString();
     if (元 == u"出金金額" || 元 == u"出金消費税") {
         if (s.現在行 > s.最終行 || (s.最終行 == 14 && s.現在行 == s.最終行)) {
             画面.SetFocus(画面(u"出金伝票備考A"_qs));
@@ -189,7 +190,7 @@ void frm紺碧帳::頁1終了取得(int r) {
         } else {
             部品& 棒 = 画面(u"scl_行"_qs);
             if (棒.Max < 棒.Value + 1) 棒.Max = 棒.Value + 1;
-            画面.操作_値変更(棒, 棒.Value + 1);
+            画面.値設定(棒, 棒.Value + 1);
             画面.SetFocus(画面(u"費目区分"_qs, 4));
         }
     } else if (元 == u"費目区分") {
@@ -198,8 +199,8 @@ void frm紺碧帳::頁1終了取得(int r) {
 }
 
 void frm紺碧帳::テイル終了取得() {
-    if (!離脱項目 || 離脱項目->名前 != u"出金伝票備考B") return;
-    画面.SetFocus(*先頭入力項目);
+    if (!s.離脱項目 || s.離脱項目->名前 != u"出金伝票備考B") return;
+    画面.SetFocus(*s.先頭入力項目);
     if (s.入力変更フラグ && 登録処理) 登録処理();
 }
 
@@ -215,5 +216,5 @@ void frm紺碧帳::スクロール変更() {
     if (s.表示行 + s.先頭行 > s.最終行 + 1) s.表示行 = static_cast<short>(s.最終行 + 1 - s.先頭行);
     s.現在行 = static_cast<short>(s.表示行 + s.先頭行);
     明細表示();
-    if (入力中項目) 画面.SetFocus(*入力中項目);
+    if (s.入力中項目) 画面.SetFocus(*s.入力中項目);
 }

@@ -49,7 +49,14 @@ void frm紺碧帳::明細事象を結ぶ() {
 void frm紺碧帳::明細離脱(部品& p) {
     if (s.画面表示中フラグ || 画面使用中) return;
     const int r = p.添字;
-    if (r < 0 || r != s.表示行) return;
+    if (r < 0) return;
+    if (r != s.表示行) {
+        // A list or check box shows its line's value again when the line refuses the change.
+        if (p.種別 == 部品種別::ComboBox || p.種別 == 部品種別::CheckBox) {
+            明細行表示(s.先頭行 + r, r);
+        }
+        return;
+    }
     {
         const QString& 名 = p.名前;
         enum { 行と合計, 行だけ, なし } 再表示 = 行と合計;
@@ -281,13 +288,13 @@ void frm紺碧帳::行複写() {
 
 void frm紺碧帳::摘要一覧(int 行) {
     if (s.画面表示中フラグ || 画面使用中) return;
-    入力中項目 = 画面.フォーカス();
+    s.入力中項目 = 画面.フォーカス();
     if (入力順序確認(2, 行, u"費目区分"_qs, 1)) return;
     auto& 基盤 = s.データ.基盤;
     基盤.画面使用可否(u"frm紺碧帳"_qs, false);
     s.一覧条件文字列 = 画面(u"摘要"_qs, 行).Text;
-    一覧設定先項目 = &画面(u"費目区分"_qs, 行);
-    一覧設定先名称項目 = &画面(u"摘要"_qs, 行);
+    s.一覧設定先項目 = &画面(u"費目区分"_qs, 行);
+    s.一覧設定先名称項目 = &画面(u"摘要"_qs, 行);
     画面使用中 = true;
     基盤.画面表示(u"wnd出金摘要一覧"_qs, true);
     画面使用中 = false;

@@ -2,14 +2,57 @@
 
 #include <algorithm>
 
-部品& 画面モデル::追加(const QString& 名前_, 部品種別 種別, int 添字) {
+void 画面モデル::作る(const 部品表& 表) {
+    for (const 部品定義& d : 表.行) {
+        if (d.配列 == 0) {
+            追加(d);
+            continue;
+        }
+        for (int r = 0; r < d.配列; ++r) {
+            部品定義 行 = d;
+            行.位置.上 += r * 表.配列間隔;
+            if (行.順 >= 0) 行.順 += r * 表.タブ間隔;
+            追加(行, r);
+        }
+    }
+    // Containers by name: a member of an array stands in the same member of an array container.
+    for (auto& p : 部品群) {
+        const QString 親 = QString::fromUtf16(p->定義.親);
+        if (親.isEmpty()) continue;
+        p->親 = 探す(親, p->添字);
+        if (!p->親) p->親 = 探す(親);
+    }
+}
+
+部品& 画面モデル::追加(const 部品定義& 定義, int 添字) {
     auto p = std::make_unique<部品>();
-    p->名前 = 名前_;
-    p->種別 = 種別;
+    p->定義 = 定義;
+    p->名前 = QString::fromUtf16(定義.名前);
+    p->種別 = 定義.種別;
     p->添字 = 添字;
-    if (種別 == 部品種別::xLabel || 種別 == 部品種別::SSPanel) p->TabStop = false;
+    p->Caption = QString::fromUtf16(定義.題);
+    // A tab control's caption names its pages, one after another.
+    if (定義.種別 == 部品種別::SSTab) p->一覧 = p->Caption.split(u'|');
+    p->Left = 定義.位置.左;
+    p->Top = 定義.位置.上;
+    p->Width = 定義.位置.幅;
+    p->Height = 定義.位置.高さ;
+    p->TabIndex = 定義.順;
+    p->TabStop = 定義.停止;
+    p->MaxLength = 定義.長さ;
+    p->Min = 定義.最小;
+    p->Max = 定義.最大;
     部品群.push_back(std::move(p));
     return *部品群.back();
+}
+
+部品& 画面モデル::追加(const QString& 名前_, 部品種別 種別, int 添字) {
+    部品定義 d;
+    d.種別 = 種別;
+    d.停止 = 種別 != 部品種別::xLabel && 種別 != 部品種別::SSPanel;
+    部品& p = 追加(d, 添字);
+    p.名前 = 名前_;
+    return p;
 }
 
 部品* 画面モデル::探す(const QString& 名前_, int 添字) {
@@ -36,6 +79,21 @@ std::vector<部品*> 画面モデル::全部品() const {
     return 全;
 }
 
+bool 画面モデル::見えるか(const 部品& p) const {
+    for (const 部品* q = &p; q; q = q->親) {
+        if (!q->Visible) return false;
+        if (q->親 && q->親->種別 == 部品種別::SSTab && q->定義.頁 >= 0 &&
+            q->親->Value != q->定義.頁) {
+            return false;
+        }
+    }
+    return true;
+}
+
+bool 画面モデル::焦点可(const 部品& p) const {
+    return p.焦点を持てる種別() && p.Enabled && 見えるか(p);
+}
+
 void 画面モデル::SetFocus(部品& 先) {
     待ち.enqueue(&先);
     待ちを処理();
@@ -55,7 +113,7 @@ void 画面モデル::呼ぶ(const std::function<void()>& 事象) {
 }
 
 void 画面モデル::移す(部品* 先) {
-    if (!先 || 先 == 現在 || !先->入力可能()) return;
+    if (!先 || 先 == 現在 || !焦点可(*先)) return;
     部品* 元 = 現在;
     現在 = 先;
     if (元) 呼ぶ(元->LostFocus);
@@ -79,6 +137,22 @@ void 画面モデル::待ちを処理() {
     while (!待ち.isEmpty() && ++安全弁 < 1000) 移す(待ち.dequeue());
 }
 
+void 画面モデル::値を変える(部品& 先, int 値) {
+    if (先.種別 == 部品種別::ComboBox) {
+        先.ListIndex = 値;
+        先.Text = 先.一覧.value(値);
+        return;
+    }
+    先.Value = 先.種別 == 部品種別::VScrollBar ? std::clamp(値, 先.Min, qMax(先.Min, 先.Max)) : 値;
+}
+
+void 画面モデル::値設定(部品& 先, int 値) {
+    const int 前 = 先.Value;
+    値を変える(先, 値);
+    if (先.Value != 前) 呼ぶ(先.Change);
+    待ちを処理();
+}
+
 void 画面モデル::操作_フォーカス(部品& 先) {
     待ち.enqueue(&先);
     待ちを処理();
@@ -87,8 +161,12 @@ void 画面モデル::操作_フォーカス(部品& 先) {
 void 画面モデル::操作_入力(部品& 先, const QString& 文字列) {
     if (現在 != &先) 操作_フォーカス(先);
     if (現在 != &先) return;  // the guard sent the focus elsewhere: the keys land there
-    QString 値 = 文字列;
-    if (先.MaxLength > 0) 値.truncate(先.MaxLength);
+    // Key by key, as typed over the whole field: a key the field does not take is lost, and a
+    // full field takes no more.
+    QString 値;
+    for (const QChar c : 文字列) {
+        if (先.入力可(値 + c)) 値 += c;
+    }
     先.Text = 値;
     呼ぶ(先.Change);
     待ちを処理();
@@ -97,7 +175,7 @@ void 画面モデル::操作_入力(部品& 先, const QString& 文字列) {
 部品* 画面モデル::次のタブ(const 部品* 起点, bool 逆) const {
     std::vector<部品*> 候補;
     for (const auto& p : 部品群) {
-        if (p->TabIndex >= 0 && p->TabStop && p->入力可能() && p->Visible) 候補.push_back(p.get());
+        if (p->TabIndex >= 0 && p->TabStop && 焦点可(*p)) 候補.push_back(p.get());
     }
     if (候補.empty()) return nullptr;
     std::stable_sort(候補.begin(), 候補.end(),
@@ -124,16 +202,21 @@ void 画面モデル::操作_ShiftTab() {
 }
 
 void 画面モデル::操作_クリック(部品& 先) {
-    if (!先.Enabled || !先.Visible) return;
-    // A button takes the focus before its click runs, as a mouse press gives it.
-    if (先.種別 == 部品種別::SSCommand && 先.TabStop) 操作_フォーカス(先);
+    if (!先.Enabled || !見えるか(先)) return;
+    // The mouse press gives the focus before the click runs, tab stop or not.
+    if (焦点可(先)) 操作_フォーカス(先);
+    if (先.種別 == 部品種別::CheckBox) {
+        if (現在 != &先) return;
+        先.Value = 先.Value ? 0 : 1;
+        呼ぶ(先.Change);
+    }
     呼ぶ(先.Click);
     待ちを処理();
 }
 
 void 画面モデル::操作_ダブルクリック(部品& 先) {
-    if (!先.Enabled || !先.Visible) return;
-    if (現在 != &先 && 先.入力可能()) 操作_フォーカス(先);
+    if (!先.Enabled || !見えるか(先)) return;
+    if (現在 != &先 && 焦点可(先)) 操作_フォーカス(先);
     呼ぶ(先.DblClick);
     待ちを処理();
 }
@@ -145,12 +228,16 @@ void 画面モデル::操作_キー(部品& 先, int キーコード) {
 }
 
 void 画面モデル::操作_値変更(部品& 先, int 値) {
-    if (!先.Enabled) return;
-    if (先.種別 == 部品種別::ComboBox) {
-        先.ListIndex = 値;
-        先.Text = 先.一覧.value(値);
-    } else {
-        先.Value = 値;
+    if (!先.Enabled || !見えるか(先)) return;
+    if (現在 != &先) 操作_フォーカス(先);
+    const bool 選択 = 先.種別 == 部品種別::ComboBox || 先.種別 == 部品種別::CheckBox;
+    if (選択 && 現在 != &先) return;
+    const int 前 = 先.種別 == 部品種別::ComboBox ? 先.ListIndex : 先.Value;
+    値を変える(先, 値);
+    const int 後 = 先.種別 == 部品種別::ComboBox ? 先.ListIndex : 先.Value;
+    if (先.種別 == 部品種別::VScrollBar && 後 == 前) {
+        待ちを処理();
+        return;
     }
     呼ぶ(先.Change);
     呼ぶ(先.Click);

@@ -6,13 +6,22 @@
 #include <exception>
 #include <functional>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "screen/部品.h"
 
+// A window's control table and the spacing of its control arrays.
+struct 部品表 {
+    std::span<const 部品定義> 行;
+    int 配列間隔 = 0;  // twips between the members of a control array
+    int タブ間隔 = 0;  // tab index step between the members of a control array
+};
+
 // A screen as a model: its controls by name (control arrays by name and index), the focus, and
 // the events an operator's actions fire. Focus moves asked for inside an event are queued and
 // delivered after the event returns, in order, as the platform's message queue delivers them.
+// The model owns every rule of focus, clicks, pages and visibility; a window only draws it.
 class 画面モデル {
   public:
     explicit 画面モデル(QString 名前) : 名前(std::move(名前)) {}
@@ -23,6 +32,9 @@ class 画面モデル {
     QString Caption;
     int Width = 0, Height = 0;
 
+    // Makes every control of the table, in its order.
+    void 作る(const 部品表& 表);
+    部品& 追加(const 部品定義& 定義, int 添字 = -1);
     部品& 追加(const QString& 名前, 部品種別 種別, int 添字 = -1);
     部品* 探す(const QString& 名前, int 添字 = -1);
     const 部品* 探す(const QString& 名前, int 添字 = -1) const;
@@ -30,32 +42,47 @@ class 画面モデル {
     // Every control in the order of creation, as the platform enumerates a form's controls.
     std::vector<部品*> 全部品() const;
 
+    // Whether the operator sees the control: it and every container up are Visible, and a
+    // control on a page of a tab control is seen only while that page is up.
+    bool 見えるか(const 部品& p) const;
+    // Whether the control can take the focus now, by code or by a click: a class that holds a
+    // focus, seen, and enabled. The tab stop plays no part.
+    bool 焦点可(const 部品& p) const;
+
     部品* フォーカス() const { return 現在; }
     // A focus move asked for by code: delivered once the running event has returned.
     void SetFocus(部品& 先);
+    // A value set by code: a scroll bar's stays within Min..Max, and its change event runs
+    // only when the value moved.
+    void 値設定(部品& 先, int 値);
 
     // What an operator does. Each runs its events and then every focus move they queued.
     void 操作_フォーカス(部品& 先);                   // click into a field or tab to it
     void 操作_入力(部品& 先, const QString& 文字列);  // focus it and type the text
     void 操作_Tab();
     void 操作_ShiftTab();
+    // A click: the control takes the focus first when it can; a check box then turns over, but
+    // only if the focus stayed on it.
     void 操作_クリック(部品& 先);
     void 操作_ダブルクリック(部品& 先);
     void 操作_キー(部品& 先, int キーコード);
-    void 操作_値変更(部品& 先, int 値);  // a scroll bar, check box, tab page or list position
+    // A scroll bar moved, a tab page or a list entry chosen. The control takes the focus first;
+    // a list takes the choice only if the focus stayed on it.
+    void 操作_値変更(部品& 先, int 値);
 
     // Called when an event ends in a run-time error (an overflow, a date beyond the calendar):
     // the operation is abandoned there and the screen goes on. Without a handler the error
     // passes to the caller.
     std::function<void(const std::exception&)> 異常時;
 
-    // The next or previous control in tab order that is visible, enabled and a tab stop.
+    // The next or previous control in tab order that can take the focus and is a tab stop.
     部品* 次のタブ(const 部品* 起点, bool 逆) const;
 
   private:
     void 呼ぶ(const std::function<void()>& 事象);
     void 移す(部品* 先);
     void 待ちを処理();
+    void 値を変える(部品& 先, int 値);
     bool 処理中 = false;
 
     std::vector<std::unique_ptr<部品>> 部品群;

@@ -22,13 +22,48 @@ enum class 部品種別 {
 
 QString 種別名(部品種別 種別);
 
-// One control of a screen model, with the properties the logic reads and writes. Geometry is in
-// twips, relative to the screen's inner area.
+struct 位置指定 {
+    int 左 = 0, 上 = 0, 幅 = 0, 高さ = 0;  // twips, relative to the screen's inner area
+};
+
+// What a field accepts as it is typed: digits only, at most so many before and after the
+// decimal point, a leading minus where the control allows it. 整数桁 0: no rule of its own.
+struct 数字制限 {
+    int 整数桁 = 0;
+    int 小数桁 = 0;
+    bool 符号 = false;
+};
+
+// One row of a window's control table: everything about a control that does not change while
+// the window is up. A control array has one row; its members stand 配列間隔 below each other and
+// add タブ間隔 to the tab index, as the window's table says.
+struct 部品定義 {
+    const char16_t* 名前 = u"";
+    部品種別 種別 = 部品種別::xField;
+    const char16_t* 題 = u"";  // Caption
+    位置指定 位置;
+    const char16_t* 親 = u"";  // the container it stands in; empty for the screen itself
+    int 配列 = 0;              // members of a control array; 0 for a single control
+    int 順 = -1;               // TabIndex; -1: no place in the traversal
+    bool 停止 = false;         // TabStop
+    int 長さ = 0;              // MaxLength
+    数字制限 数字;
+    int 最小 = 0, 最大 = 0;      // Min and Max of a number field or scroll bar; both 0: none
+    int 頁 = -1;                 // the page of the tab control it stands on; -1: not on a tab page
+    int 区分 = 0;                // section of the order guard: 1 header, 2 rows, 3 tail; 0 none
+    int 序数 = 0;                // ordinal in its section
+    bool 必須 = false;           // the header's required item of that ordinal
+    const char16_t* 結び = u"";  // a title panel: the item a click on it stands for
+};
+
+// One control of a screen model: the row of the table it was made from, and the properties the
+// logic reads and writes while the window is up.
 struct 部品 {
+    部品定義 定義;
     QString 名前;
     int 添字 = -1;  // position in a control array (the visible row), -1 for a single control
     部品種別 種別 = 部品種別::xField;
-    QString 親;  // the container it stands in, by name; empty for the screen itself
+    部品* 親 = nullptr;  // the container, resolved when the screen is built
 
     QString Text;
     QString Caption;
@@ -53,6 +88,9 @@ struct 部品 {
     std::function<void()> Change;
     std::function<void(int)> KeyDown;
 
-    // A control that can take the focus by code or click.
-    bool 入力可能() const;
+    // A class of control that can hold the focus at all; labels and panels never do.
+    bool 焦点を持てる種別() const;
+    // Whether the text may stand in the field as typed: its length, and the digits, sign and
+    // decimals of a number field. A partial number ("-", "12.") may stand while typing.
+    bool 入力可(const QString& 文字列) const;
 };

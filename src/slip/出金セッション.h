@@ -9,6 +9,8 @@
 #include "rules/消費税計算.h"
 #include "text/金額.h"
 
+struct 部品;  // a control of a screen; the screens own them
+
 // The slip header in memory. The kept fields remember the stored key and date as loaded, so that
 // a changed key can still reach the stored rows.
 struct 出金見出し {
@@ -117,9 +119,17 @@ class 出金セッション {
     short 表示行 = 0;
     short 最終行 = -1;
 
-    // Hand-over to and from the screen and the list windows.
+    // Hand-over between the screen's events, the order guard and the list windows: the
+    // controls by reference, owned by their screens.
     QString お知らせ文言;
+    部品* 離脱項目 = nullptr;
+    部品* 入力中項目 = nullptr;
+    部品* 先頭入力項目 = nullptr;
     QString 一覧条件文字列;
+    部品* 一覧設定先項目 = nullptr;
+    部品* 一覧設定先名称項目 = nullptr;
+    QString 一覧呼出元画面;
+    int 一覧入れ子区分 = 0;
 
     // The program link: what this run was started with, and what it answers at its end.
     QString 受信起動連携情報;

@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTreeWidget>
+#include <QValidator>
 
 namespace {
 
@@ -18,11 +19,17 @@ constexpr int 画素(int twips) {
     return twips / 15;
 }  // 15 twips to a pixel at 96 dpi
 
-// Controls of the second page of a tab control; every other child of it is on the first.
-bool 第二頁(const 部品& p) {
-    return p.名前 == u"List付属書類" || p.名前 == u"btn_付属書類追加" ||
-           p.名前 == u"btn_付属書類削除" || p.名前 == u"btn_フォルダ";
-}
+// A field takes what its control takes as it is typed; the rule is the model's.
+class 部品の検査 : public QValidator {
+  public:
+    部品の検査(const 部品& p, QObject* 親) : QValidator(親), p(p) {}
+    State validate(QString& 文字列, int&) const override {
+        return p.入力可(文字列) ? Acceptable : Invalid;
+    }
+
+  private:
+    const 部品& p;
+};
 
 QWidget* 作成(部品& p, QWidget* 親) {
     switch (p.種別) {
@@ -31,6 +38,7 @@ QWidget* 作成(部品& p, QWidget* 親) {
         case 部品種別::xText: {
             auto* e = new QLineEdit(親);
             if (p.種別 == 部品種別::xNum) e->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            e->setValidator(new 部品の検査(p, e));
             return e;
         }
         case 部品種別::xLabel: {
@@ -87,9 +95,8 @@ void ScreenWindow::作る() {
         // A tab control draws only its tabs here; the pages are the controls laid over it.
         if (p->種別 == 部品種別::SSTab) 高さ = 24;
         w->setGeometry(画素(p->Left), 画素(p->Top), qMax(1, 画素(p->Width)), 高さ);
-        // The model keeps the traversal: Qt's own focus chain must not move the focus.
-        w->setFocusPolicy(p->TabIndex >= 0 || p->種別 == 部品種別::SSCommand ? Qt::ClickFocus
-                                                                             : Qt::NoFocus);
+        // The model keeps the focus: neither Qt's focus chain nor its clicks move it.
+        w->setFocusPolicy(Qt::NoFocus);
         w->installEventFilter(this);
         対応.insert(p, w);
         逆引き.insert(w, p);
@@ -101,9 +108,8 @@ void ScreenWindow::作る() {
             QObject::connect(c, &QComboBox::activated, this,
                              [this, p](int i) { 操作([this, p, i] { m.操作_値変更(*p, i); }); });
         } else if (auto* k = qobject_cast<QCheckBox*>(w)) {
-            QObject::connect(k, &QCheckBox::clicked, this, [this, p](bool 値) {
-                操作([this, p, 値] { m.操作_値変更(*p, 値 ? 1 : 0); });
-            });
+            QObject::connect(k, &QCheckBox::clicked, this,
+                             [this, p] { 操作([this, p] { m.操作_クリック(*p); }); });
         } else if (auto* s = qobject_cast<QScrollBar*>(w)) {
             QObject::connect(s, &QScrollBar::valueChanged, this, [this, p](int 値) {
                 if (!同期中) 操作([this, p, 値] { m.操作_値変更(*p, 値); });
@@ -116,15 +122,6 @@ void ScreenWindow::作る() {
     }
 }
 
-bool ScreenWindow::見えるか(const 部品& p) const {
-    if (!p.Visible) return false;
-    if (p.親.isEmpty()) return true;
-    const 部品* 親 = m.探す(p.親, p.親.startsWith(u"bak_dtl") ? p.添字 : -1);
-    if (!親) return true;
-    if (親->種別 == 部品種別::SSTab && 親->Value != (第二頁(p) ? 1 : 0)) return false;
-    return 見えるか(*親);
-}
-
 void ScreenWindow::反映() {
     同期中 = true;
     setWindowTitle(m.Caption);
@@ -132,7 +129,7 @@ void ScreenWindow::反映() {
         const 部品& p = *it.key();
         QWidget* w = it.value();
         const QSignalBlocker 止め(w);
-        w->setVisible(見えるか(p));
+        w->setVisible(m.見えるか(p));
         w->setEnabled(p.Enabled);
         if (auto* e = qobject_cast<QLineEdit*>(w)) {
             if (p.MaxLength > 0) e->setMaxLength(p.MaxLength);
@@ -207,22 +204,39 @@ bool ScreenWindow::eventFilter(QObject* 対象, QEvent* 事象) {
             if (k->key() == Qt::Key_Control) 操作([this, p] { m.操作_キー(*p, 17); });
             break;
         }
-        case QEvent::FocusIn:
-            // The operator put the focus here by a click: the model decides where it may stay.
-            if (m.フォーカス() != p) 操作([this, p] { m.操作_フォーカス(*p); });
-            break;
+        case QEvent::MouseButtonPress:
+            return 押下(*p, w);
         case QEvent::MouseButtonDblClick:
             操作([this, p] { m.操作_ダブルクリック(*p); });
             break;
-        case QEvent::MouseButtonPress:
-            if (p->種別 == 部品種別::SSPanel || p->種別 == 部品種別::xLabel) {
-                操作([this, p] { m.操作_クリック(*p); });
-            }
+        case QEvent::Wheel:
+            // No wheel turns a closed list or the tab pages: only what the operator opens moves.
+            if (qobject_cast<QComboBox*>(w) || qobject_cast<QTabBar*>(w)) return true;
             break;
         default:
             break;
     }
     return QWidget::eventFilter(対象, 事象);
+}
+
+bool ScreenWindow::押下(部品& p, QWidget* w) {
+    switch (p.種別) {
+        case 部品種別::SSCommand:
+        case 部品種別::CheckBox:
+        case 部品種別::VScrollBar:
+        case 部品種別::SSTab:
+            return false;  // their click, value or page reaches the model when it is complete
+        case 部品種別::SSPanel:
+        case 部品種別::xLabel:
+            操作([this, &p] { m.操作_クリック(p); });
+            return false;
+        default:
+            break;
+    }
+    // A field, list or list view: the press asks for the focus, and where the model sends it
+    // elsewhere the press goes no further (no cursor placed, no list opened).
+    操作([this, &p] { m.操作_フォーカス(p); });
+    return m.フォーカス() != &p;
 }
 
 void ScreenWindow::closeEvent(QCloseEvent* e) {

@@ -30,7 +30,8 @@ class ScreenWindow : public QWidget {
     // the model first, and the widgets follow the model afterwards.
     void 操作(const std::function<void()>& 動作);
     void 入力を渡す();
-    bool 見えるか(const 部品& p) const;
+    // A mouse press on a control's widget; true when the press must go no further.
+    bool 押下(部品& p, QWidget* w);
 
     画面モデル& m;
     QHash<const 部品*, QWidget*> 対応;

@@ -21,8 +21,8 @@ TEST_F(入力画面, 配置は題名と幅と長さの制限と一覧を整え�
         EXPECT_EQ(c(u"費目区分"_qs, r).Min, 0);
     }
     EXPECT_EQ(c(u"scl_行"_qs).LargeChange, 5);
-    EXPECT_EQ(f->先頭入力項目, &c(u"担当者コード"_qs));
-    EXPECT_EQ(f->入力中項目, &c(u"担当者コード"_qs));
+    EXPECT_EQ(s.先頭入力項目, &c(u"担当者コード"_qs));
+    EXPECT_EQ(s.入力中項目, &c(u"担当者コード"_qs));
 }
 
 TEST_F(入力画面, 見出しの順番と止まる項目は表の通り) {

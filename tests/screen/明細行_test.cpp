@@ -180,6 +180,11 @@ TEST_F(明細確定, 同じ費目区分を打ち直しても変更にならな�
     EXPECT_FALSE(f->費目区分確定(0, 3));
 }
 
+// A class that another user took out of the table after the screen had filled its lists.
+void 区分を消す(試験用ツリー& 木, const QString& 区分) {
+    ASSERT_TRUE(木.業務DB実行(u"DELETE FROM K費目区分 WHERE 区分 = '"_qs + 区分 + u"'"_qs));
+}
+
 TEST_F(明細確定, 知らない費目区分は0と外税になり率と金額と打った税は残る) {
     準備();
     打つ(u"費目区分"_qs, 0, u"3"_qs);
@@ -187,7 +192,8 @@ TEST_F(明細確定, 知らない費目区分は0と外税になり率と金額�
     f->画面.操作_入力(c(u"出金消費税"_qs, 0), u"55"_qs);
     f->画面.操作_フォーカス(c(u"費目区分"_qs, 0));
     const 金額 前の合計 = s.合計.実質出金金額合計;
-    打つ(u"費目区分"_qs, 0, u"99"_qs);
+    区分を消す(木, u"09"_qs);
+    打つ(u"費目区分"_qs, 0, u"9"_qs);
     const auto& l = s.行[0];
     EXPECT_EQ(l.費目区分, 0);
     EXPECT_EQ(l.内税外税区分, 1);
@@ -209,7 +215,8 @@ TEST_F(明細確定, 知らない区分の後で非課税の区分を打つと�
     打つ(u"出金金額"_qs, 0, u"1000"_qs);
     f->画面.操作_入力(c(u"出金消費税"_qs, 0), u"55"_qs);
     f->画面.操作_フォーカス(c(u"費目区分"_qs, 0));
-    打つ(u"費目区分"_qs, 0, u"99"_qs);
+    区分を消す(木, u"09"_qs);
+    打つ(u"費目区分"_qs, 0, u"9"_qs);
     f->画面.操作_フォーカス(c(u"費目区分"_qs, 0));
     打つ(u"費目区分"_qs, 0, u"8"_qs);
     const auto& l = s.行[0];
@@ -376,12 +383,68 @@ TEST_F(明細確定, 摘要は入れるだけで何も描き直さない) {
     EXPECT_EQ(焦点(), u"出金金額(0)"_qs);
 }
 
-TEST_F(明細確定, 今の行でない行の一覧を変えても何もしない) {
+TEST_F(明細確定, 案内に断られた行の一覧は選んでも変わらず行の値を見せる) {
+    伝票を置く(1);
+    行に立つ(0);
+    // The first empty line has no class yet: its tax class list is a later item of that line.
+    f->画面.操作_値変更(c(u"内税外税区分名称"_qs, 1), 2);
+    EXPECT_EQ(焦点(), u"費目区分(1)"_qs);
+    EXPECT_EQ(s.行[1].内税外税区分, 0);
+    EXPECT_EQ(c(u"内税外税区分名称"_qs, 1).ListIndex, -1);
+    EXPECT_EQ(c(u"内税外税区分名称"_qs, 1).Text, QString());
+    EXPECT_FALSE(s.入力変更フラグ);
+}
+
+TEST_F(明細確定, 今の行でない行の一覧は案内がその行を今の行にしてから変える) {
     伝票を置く(2);
     行に立つ(0);
     f->画面.操作_値変更(c(u"費目区分名称"_qs, 1), 9);
-    EXPECT_EQ(s.行[1].費目区分, 1);
+    EXPECT_EQ(s.表示行, 1);
+    EXPECT_EQ(s.現在行, 1);
+    EXPECT_EQ(s.行[1].費目区分, 10);
+    EXPECT_EQ(焦点(), u"費目区分名称(1)"_qs);
+    EXPECT_TRUE(s.入力変更フラグ);
+}
+
+TEST_F(明細確定, 行を指していない行の表示は断られた値を行の値に戻す) {
+    伝票を置く(2);
+    行に立つ(0);
+    部品& 印 = c(u"chb_課税事業所区分"_qs, 1);
+    const int 元 = s.行[1].課税事業所区分;
+    印.Value = 1 - 元;  // what the control showed after the refused click
+    印.Click();
+    EXPECT_EQ(印.Value, 元);
+    EXPECT_EQ(s.行[1].課税事業所区分, 元);
+}
+
+TEST_F(明細確定, 見出しに空きがあれば課税事業所の印は押しても変わらず空きへ行く) {
+    f->明細表示();
+    f->画面.操作_クリック(c(u"chb_課税事業所区分"_qs, 0));
+    EXPECT_EQ(焦点(), u"担当者コード"_qs);
+    EXPECT_EQ(c(u"chb_課税事業所区分"_qs, 0).Value, 0);
+    EXPECT_EQ(s.行[0].課税事業所区分, 0);
     EXPECT_FALSE(s.入力変更フラグ);
+}
+
+TEST_F(明細確定, 空の行の課税事業所の印は押しても変わらず費目区分へ行く) {
+    伝票を置く(1);
+    行に立つ(0);
+    f->画面.操作_クリック(c(u"chb_課税事業所区分"_qs, 1));
+    EXPECT_EQ(焦点(), u"費目区分(1)"_qs);
+    EXPECT_EQ(c(u"chb_課税事業所区分"_qs, 1).Value, 0);
+    EXPECT_EQ(s.行[1].課税事業所区分, 0);
+    EXPECT_EQ(s.最終行, 0);
+}
+
+TEST_F(明細確定, 今の行の課税事業所の印は押すと焦点を取り値が変わる) {
+    伝票を置く(2);
+    行に立つ(0);
+    const int 元 = s.行[1].課税事業所区分;
+    f->画面.操作_クリック(c(u"chb_課税事業所区分"_qs, 1));
+    EXPECT_EQ(焦点(), u"chb_課税事業所区分(1)"_qs);
+    EXPECT_EQ(s.表示行, 1);
+    EXPECT_EQ(s.行[1].課税事業所区分, 1 - 元);
+    EXPECT_TRUE(s.入力変更フラグ);
 }
 
 TEST_F(明細確定, 一覧の窓が出ている間は何もしない) {
@@ -396,13 +459,59 @@ TEST_F(明細確定, 一覧の窓が出ている間は何もしない) {
     EXPECT_FALSE(s.入力変更フラグ);
 }
 
-TEST_F(明細確定, 桁あふれは知らせて操作だけを終える) {
+TEST_F(明細確定, 数の欄は数字だけを桁まで取る) {
     伝票を置く(1);
     行に立つ(0);
-    打つ(u"出金金額"_qs, 0, u"9e18"_qs);
+    f->画面.操作_入力(c(u"出金金額"_qs, 0), u"taxi"_qs);
+    EXPECT_EQ(欄の字(u"出金金額"_qs, 0), QString());
+    f->画面.操作_入力(c(u"出金金額"_qs, 0), u"9e18"_qs);
+    EXPECT_EQ(欄の字(u"出金金額"_qs, 0), u"918"_qs);
+    f->画面.操作_入力(c(u"出金金額"_qs, 0), u"-12345678901"_qs);
+    EXPECT_EQ(欄の字(u"出金金額"_qs, 0), u"-1234567890"_qs);
+    f->画面.操作_入力(c(u"出金金額"_qs, 0), u"12.5"_qs);
+    EXPECT_EQ(欄の字(u"出金金額"_qs, 0), u"125"_qs);  // no decimals in an amount
+    f->画面.操作_入力(c(u"出金消費税"_qs, 0), u"1234567890"_qs);
+    EXPECT_EQ(欄の字(u"出金消費税"_qs, 0), u"123456789"_qs);
+    f->画面.操作_入力(c(u"消費税率"_qs, 0), u"-8.125"_qs);
+    EXPECT_EQ(欄の字(u"消費税率"_qs, 0), u"8.12"_qs);
+    f->画面.操作_入力(c(u"消費税率"_qs, 0), u"123"_qs);
+    EXPECT_EQ(欄の字(u"消費税率"_qs, 0), u"12"_qs);
+    f->画面.操作_入力(c(u"内税外税区分"_qs, 0), u"12"_qs);
+    EXPECT_EQ(欄の字(u"内税外税区分"_qs, 0), u"1"_qs);
+}
+
+TEST_F(明細確定, 費目区分は表の区分の数までしか打てない) {
+    準備();
+    ASSERT_EQ(c(u"費目区分"_qs, 0).Max, 10);
+    f->画面.操作_入力(c(u"費目区分"_qs, 0), u"99"_qs);
+    EXPECT_EQ(欄の字(u"費目区分"_qs, 0), u"9"_qs);
+    f->画面.操作_入力(c(u"費目区分"_qs, 0), u"11"_qs);
+    EXPECT_EQ(欄の字(u"費目区分"_qs, 0), u"1"_qs);
+    f->画面.操作_入力(c(u"費目区分"_qs, 0), u"10"_qs);
+    EXPECT_EQ(欄の字(u"費目区分"_qs, 0), u"10"_qs);
+    f->画面.操作_入力(c(u"費目区分"_qs, 0), u"-1"_qs);
+    EXPECT_EQ(欄の字(u"費目区分"_qs, 0), u"1"_qs);
+}
+
+TEST_F(明細確定, 桁あふれは知らせて操作だけを終える) {
+    // A slip stored by another program whose lines no total can hold together.
+    試験伝票 t;
+    t.出金No = u"00000077"_qs;
+    t.行数 = 2;
+    t.金額単位 = 400000000000000;
+    ASSERT_TRUE(伝票投入(木, t));
+    見出しを埋める();
+    打つ(u"出金No"_qs, -1, u"77"_qs);
+    ASSERT_EQ(s.行[1].出金金額, 金額::円(800000000000000));
+    f->画面.操作_フォーカス(c(u"費目区分"_qs, 0));
+    f->画面.操作_入力(c(u"出金消費税"_qs, 0), u"1"_qs);
+    f->画面.操作_Tab();
     EXPECT_TRUE(基盤.表示文言().contains(u"オーバーフローしました。"_qs));
     EXPECT_FALSE(s.画面表示中フラグ);
-    EXPECT_EQ(s.合計.出金金額合計, 金額::円(1000));
+    EXPECT_FALSE(f->画面使用中);
+    // The screen listens again.
+    f->画面.操作_フォーカス(c(u"出金日付年"_qs));
+    EXPECT_EQ(焦点(), u"出金日付年"_qs);
 }
 
 // ---- Row display ----
@@ -806,8 +915,8 @@ class 明細摘要一覧 : public 明細試験 {
         基盤.画面表示時 = [this, 鍵](const QString& 名) {
             if (名 != u"wnd出金摘要一覧") return;
             渡された条件 = s.一覧条件文字列;
-            設定先 = f->一覧設定先項目;
-            名称先 = f->一覧設定先名称項目;
+            設定先 = s.一覧設定先項目;
+            名称先 = s.一覧設定先名称項目;
             使用中だった = f->画面使用中;
             s.一覧条件文字列 = 鍵;
         };

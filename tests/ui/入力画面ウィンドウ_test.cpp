@@ -1,12 +1,17 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
 #include <QInputMethodEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTabBar>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "app/起動処理.h"
 #include "common/試験用ツリー.h"
@@ -63,11 +68,31 @@ class 入力画面ウィンドウ試験 : public ::testing::Test {
         }
         EXPECT_EQ(QApplication::focusWidget(), 窓->ウィジェット(*f.画面.フォーカス()));
     }
+    // Every control the model shows stands at its place (15 twips to a pixel) with its text,
+    // and only those are drawn.
+    void 配置と文字を確かめる() {
+        for (部品* p : f.画面.全部品()) {
+            QWidget* x = 窓->ウィジェット(*p);
+            if (!x) continue;
+            const std::string 名 = p->名前.toStdString() + std::to_string(p->添字);
+            EXPECT_EQ(x->isVisible(), f.画面.見えるか(*p)) << 名;
+            EXPECT_EQ(x->isEnabled(), p->Enabled) << 名;
+            EXPECT_EQ(x->x(), p->Left / 15) << 名;
+            EXPECT_EQ(x->y(), p->Top / 15) << 名;
+            EXPECT_EQ(x->width(), qMax(1, p->Width / 15)) << 名;
+            if (p->種別 != 部品種別::SSTab) EXPECT_EQ(x->height(), qMax(1, p->Height / 15)) << 名;
+            if (auto* b = qobject_cast<QPushButton*>(x)) EXPECT_EQ(b->text(), p->Caption) << 名;
+            if (auto* l = qobject_cast<QLabel*>(x)) EXPECT_EQ(l->text(), p->Caption) << 名;
+            if (auto* e = qobject_cast<QLineEdit*>(x)) EXPECT_EQ(e->text(), p->Text) << 名;
+            if (auto* k = qobject_cast<QComboBox*>(x)) EXPECT_EQ(k->currentText(), p->Text) << 名;
+        }
+    }
+    // A picture for the eye; what it shows is asserted through the widgets.
     void 写真(const QString& 名前) {
         QDir().mkpath(QStringLiteral(KONPEKI_ARTIFACTS));
-        EXPECT_TRUE(
-            窓->grab().save(QStringLiteral(KONPEKI_ARTIFACTS) + u"/"_qs + 名前 + u".png"_qs));
+        窓->grab().save(QStringLiteral(KONPEKI_ARTIFACTS) + u"/"_qs + 名前 + u".png"_qs);
     }
+    QLineEdit* 欄(const QString& 名前, int 行 = -1) { return static_cast<QLineEdit*>(w(名前, 行)); }
 
     試験用ツリー 木;
     台本プラットフォーム 基盤;
@@ -134,17 +159,25 @@ TEST_F(入力画面ウィンドウ試験, 切替の釦で税別の枠が現れ�
     EXPECT_TRUE(s.軽減税率表示);
     EXPECT_TRUE(w(u"bak_税別合計"_qs)->isVisible());
     EXPECT_TRUE(w(u"前回税率出金金額合計"_qs)->isVisible());
+    EXPECT_EQ(static_cast<QLabel*>(w(u"itm_ttl_今回税率合計"_qs))->text(), u"合計(10%)"_qs);
+    配置と文字を確かめる();
     写真(u"軽減税率表示"_qs);
     QTest::mouseClick(w(u"btn_通常表示切替"_qs), Qt::LeftButton);
     EXPECT_FALSE(w(u"bak_税別合計"_qs)->isVisible());
 }
 
 TEST_F(入力画面ウィンドウ試験, 新規伝票の帯の中で部品は重ならない) {
+    配置と文字を確かめる();
+    EXPECT_EQ(static_cast<QPushButton*>(w(u"btn_行複写"_qs))->text(), u"前行複写"_qs);
+    EXPECT_EQ(static_cast<QLabel*>(w(u"itm_ttl_出金日付"_qs))->text(), u"出金日付"_qs);
+    EXPECT_EQ(w(u"出金日付年"_qs)->geometry(), QRect(66, 40, 40, 22));
+    EXPECT_FALSE(w(u"List付属書類"_qs)->isVisible());  // page 1 of the tab is not up
+    EXPECT_TRUE(w(u"摘要"_qs, 4)->isVisible());
     写真(u"新規伝票"_qs);
     // Containers hold others by design; the end controls stand off the working area.
     QSet<QString> 入れ物;
     for (部品* p : f.画面.全部品()) {
-        if (!p->親.isEmpty()) 入れ物.insert(p->親);
+        if (p->親) 入れ物.insert(p->親->名前);
     }
     入れ物 << u"tab_詳細"_qs;
     QList<QPair<部品*, QRect>> 見える;
@@ -182,7 +215,100 @@ TEST_F(入力画面ウィンドウ試験, 七行の伝票は下へ送られて�
     EXPECT_TRUE(棒->isEnabled());
     EXPECT_EQ(static_cast<QLineEdit*>(w(u"出金金額"_qs, 3))->text(), u"1006"_qs);
     一致を確かめる();
+    配置と文字を確かめる();
+    EXPECT_EQ(欄(u"摘要"_qs, 0)->text(), u"タクシー代"_qs);
+    EXPECT_EQ(欄(u"出金金額"_qs, 0)->text(), u"1003"_qs);
+    EXPECT_EQ(欄(u"費目区分"_qs, 4)->text(), QString());  // the blank row after the lines
+    EXPECT_EQ(static_cast<QScrollBar*>(棒)->value(), 3);
+    EXPECT_EQ(static_cast<QScrollBar*>(棒)->maximum(), 3);
     写真(u"七行"_qs);
+}
+
+TEST_F(入力画面ウィンドウ試験, 数の欄は数字でない鍵を取らず桁で止まる) {
+    QTest::mouseClick(w(u"出金日付年"_qs), Qt::LeftButton);
+    ASSERT_EQ(焦点(), u"出金日付年"_qs);
+    欄(u"出金日付年"_qs)->selectAll();
+    打つ(u"2o26x7"_qs);
+    EXPECT_EQ(欄(u"出金日付年"_qs)->text(), u"2267"_qs);
+    打つ(u"1"_qs);
+    EXPECT_EQ(欄(u"出金日付年"_qs)->text(), u"2267"_qs);
+    Tab();
+    EXPECT_EQ(s.見出し.出金日付年, u"2267"_qs);
+
+    QTest::mouseClick(w(u"担当者コード"_qs), Qt::LeftButton);
+    打つ(u"3"_qs);
+    Tab();
+    ASSERT_EQ(焦点(), u"費目区分0"_qs);
+    打つ(u"99"_qs);
+    EXPECT_EQ(欄(u"費目区分"_qs, 0)->text(), u"9"_qs);
+    Tab();
+    支払先までTab();
+    Tab();
+    Tab();
+    ASSERT_EQ(焦点(), u"出金金額0"_qs);
+    欄(u"出金金額"_qs, 0)->selectAll();
+    打つ(u"taxi"_qs);
+    EXPECT_EQ(欄(u"出金金額"_qs, 0)->text(), u"0"_qs);  // not one of the keys was taken
+    打つ(u"-123456789012"_qs);
+    EXPECT_EQ(欄(u"出金金額"_qs, 0)->text(), u"-1234567890"_qs);
+}
+
+TEST_F(入力画面ウィンドウ試験, 見出しに空きがあれば課税事業所の印を押しても変わらず空きへ行く) {
+    QTest::mouseClick(w(u"chb_課税事業所区分"_qs, 0), Qt::LeftButton);
+    EXPECT_EQ(焦点(), u"担当者コード"_qs);
+    EXPECT_FALSE(static_cast<QCheckBox*>(w(u"chb_課税事業所区分"_qs, 0))->isChecked());
+    EXPECT_EQ(s.行[0].課税事業所区分, 0);
+    一致を確かめる();
+}
+
+TEST_F(入力画面ウィンドウ試験, 閉じた一覧とタブの上で車輪を回しても何も変わらない) {
+    打つ(u"3"_qs);
+    Tab();
+    打つ(u"3"_qs);
+    Tab();
+    auto* 一覧 = static_cast<QComboBox*>(w(u"費目区分名称"_qs, 0));
+    ASSERT_TRUE(一覧->isEnabled());
+    ASSERT_EQ(一覧->currentIndex(), 2);
+    auto 回す = [](QWidget* 先) {
+        const QPoint 中 = 先->rect().center();
+        QWheelEvent 車輪(中, 先->mapToGlobal(中), QPoint(), QPoint(0, -120), Qt::NoButton,
+                         Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(先, &車輪);
+    };
+    回す(一覧);
+    EXPECT_EQ(一覧->currentIndex(), 2);
+    EXPECT_EQ(s.行[0].費目区分, 3);
+    auto* タブ = static_cast<QTabBar*>(w(u"tab_詳細"_qs));
+    ASSERT_TRUE(タブ->isEnabled());
+    回す(タブ);
+    EXPECT_EQ(タブ->currentIndex(), 0);
+    EXPECT_EQ(c(u"tab_詳細"_qs).Value, 0);
+}
+
+TEST_F(入力画面ウィンドウ試験, 押した釦は焦点を取り打った欄はその前に確定する) {
+    打つ(u"3"_qs);
+    Tab();
+    打つ(u"3"_qs);
+    Tab();
+    ASSERT_EQ(s.最終行, 0);
+    QTest::mouseClick(w(u"摘要"_qs, 0), Qt::LeftButton);
+    ASSERT_EQ(焦点(), u"摘要0"_qs);
+    打つ(u"用紙"_qs);
+    QTest::mouseClick(w(u"btn_行挿入"_qs), Qt::LeftButton);
+    // The field was left for the button, so its text is the line's before the line moved down.
+    EXPECT_EQ(s.最終行, 1);
+    EXPECT_EQ(s.行[1].摘要, u"用紙"_qs);
+    EXPECT_EQ(焦点(), u"費目区分0"_qs);
+    EXPECT_FALSE(c(u"btn_行挿入"_qs).Enabled);  // the buttons follow the row the focus is on
+    一致を確かめる();
+}
+
+TEST_F(入力画面ウィンドウ試験, 題の枠を押すとその項目を得たのと同じく見出しの空きへ送られる) {
+    QTest::mouseClick(w(u"itm_ttl_出金金額"_qs), Qt::LeftButton);
+    EXPECT_EQ(焦点(), u"担当者コード"_qs);
+    // The panel ran the amount's got-focus, and the focus never left the staff code.
+    EXPECT_EQ(s.入力中項目, &c(u"出金金額"_qs, 0));
+    一致を確かめる();
 }
 
 }  // namespace
