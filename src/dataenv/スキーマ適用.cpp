@@ -114,6 +114,16 @@ bool ツリー作成(const ツリー作成指定& 指定, QString& エラー) {
             return false;
         }
     }
+    // The operator's manual of the sample company, named as the program opens it.
+    const QDir 手引き(指定.スキーマフォルダ + u"/seed/manual"_qs);
+    for (const QString& 名 : 手引き.entryList(QDir::Files)) {
+        const QString 先 = 根 + u"/manual/"_qs + 名;
+        QFile::remove(先);
+        if (!QFile::copy(手引き.filePath(名), 先)) {
+            エラー = 手引き.filePath(名) + u": 複写できません"_qs;
+            return false;
+        }
+    }
     for (const QString& プログラム : 指定.複写プログラム) {
         const QString 先 = 根 + u"/prgbin/"_qs + QFileInfo(プログラム).fileName();
         QFile::remove(先);

@@ -29,13 +29,32 @@ class 入力画面試験 : public ::testing::Test {
         if (!p) return {};
         return p->添字 < 0 ? p->名前 : p->名前 + u"("_qs + QString::number(p->添字) + u")"_qs;
     }
-    // The header filled as staff 00003 would have it, behind the screen's back.
+    // The header completed by staff 00003 through the staff commit, the focus left where it
+    // was; the slip counts as unchanged afterwards, as a freshly loaded one.
     void 見出しを埋める() {
-        s.見出し.担当者コード = u"00003"_qs;
-        s.見出し.担当者名 = u"上田 健一"_qs;
-        s.見出し.部門コード = u"001"_qs;
-        s.見出し.セクションコード = u"001"_qs;
+        f->担当者確定(u"00003"_qs);
+        ASSERT_EQ(s.見出し.担当者名, u"上田 健一"_qs);
+        ASSERT_EQ(s.見出し.部門コード, u"001"_qs);
+        ASSERT_EQ(s.見出し.セクションコード, u"001"_qs);
+        s.入力変更フラグ = false;
         f->見出し表示();
+    }
+    // Lines typed as an operator types them from the staff code on: class 3, amounts 1000,
+    // 2000, ...; the focus ends after the last amount.
+    void 行を打つ(int n) {
+        f->画面.操作_入力(c(u"担当者コード"_qs), u"3"_qs);
+        f->画面.操作_Tab();
+        for (int i = 0; i < n; ++i) {
+            部品* p = f->画面.フォーカス();
+            ASSERT_TRUE(p && p->名前 == u"費目区分") << i;
+            f->画面.操作_入力(*p, u"3"_qs);
+            for (int k = 0; k < 10 && f->画面.フォーカス()->名前 != u"出金金額"; ++k) {
+                f->画面.操作_Tab();
+            }
+            f->画面.操作_入力(*f->画面.フォーカス(), QString::number(1000 * (i + 1)));
+            f->画面.操作_Tab();
+        }
+        ASSERT_EQ(s.最終行, n - 1);
     }
     // Lines 0 .. n-1 with expense class 3 and amounts 1000, 2000, ...
     void 行を入れる(int n) {

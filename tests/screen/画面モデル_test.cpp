@@ -123,3 +123,124 @@ TEST(画面モデル, 受け手がなければ実行時エラーは呼び手に�
 }
 
 }  // namespace
+
+namespace {
+
+constexpr 部品定義 試験表[] = {
+    {.名前 = u"枠", .種別 = 部品種別::SSPanel, .位置 = {0, 0, 900, 900}},
+    {.名前 = u"欄",
+     .種別 = 部品種別::xNum,
+     .位置 = {10, 20, 300, 330},
+     .親 = u"枠",
+     .配列 = 3,
+     .順 = 4,
+     .停止 = true,
+     .数字 = {3, 1, true}},
+    {.名前 = u"頁", .種別 = 部品種別::SSTab, .題 = u"一|二", .位置 = {0, 1000, 900, 900}},
+    {.名前 = u"一の欄", .種別 = 部品種別::xField, .親 = u"頁", .順 = 20, .停止 = true, .頁 = 0},
+    {.名前 = u"二の欄", .種別 = 部品種別::xField, .親 = u"頁", .順 = 21, .停止 = true, .頁 = 1},
+    {.名前 = u"釦", .種別 = 部品種別::SSCommand, .題 = u"押す"},
+    {.名前 = u"印", .種別 = 部品種別::CheckBox},
+    {.名前 = u"棒", .種別 = 部品種別::VScrollBar, .最大 = 3},
+};
+
+struct 表の画面 {
+    画面モデル m{u"t"_qs};
+    表の画面() { m.作る({試験表, 400, 10}); }
+};
+
+TEST(画面モデル, 表から部品を作り配列は間隔ずつ下へタブ順は十ずつ進む) {
+    表の画面 t;
+    const 部品& 欄2 = t.m(u"欄"_qs, 2);
+    EXPECT_EQ(欄2.Top, 20 + 800);
+    EXPECT_EQ(欄2.Left, 10);
+    EXPECT_EQ(欄2.TabIndex, 24);
+    EXPECT_TRUE(欄2.TabStop);
+    EXPECT_EQ(欄2.親, &t.m(u"枠"_qs));
+    EXPECT_EQ(t.m(u"釦"_qs).Caption, u"押す"_qs);
+    EXPECT_EQ(t.m(u"頁"_qs).一覧, (QStringList{u"一"_qs, u"二"_qs}));
+    EXPECT_EQ(t.m(u"棒"_qs).Max, 3);
+    EXPECT_EQ(t.m.全部品().size(), 10u);
+}
+
+TEST(画面モデル, 頁の上の部品はその頁が出ている間だけ見えTabもその間だけ止まる) {
+    表の画面 t;
+    EXPECT_TRUE(t.m.見えるか(t.m(u"一の欄"_qs)));
+    EXPECT_FALSE(t.m.見えるか(t.m(u"二の欄"_qs)));
+    t.m.操作_フォーカス(t.m(u"一の欄"_qs));
+    t.m.操作_Tab();
+    EXPECT_EQ(t.m.フォーカス(), &t.m(u"欄"_qs, 2));  // tab 24: past the hidden page's 21
+    t.m.操作_値変更(t.m(u"頁"_qs), 1);
+    EXPECT_FALSE(t.m.見えるか(t.m(u"一の欄"_qs)));
+    t.m.操作_フォーカス(t.m(u"二の欄"_qs));
+    EXPECT_EQ(t.m.フォーカス(), &t.m(u"二の欄"_qs));
+    t.m(u"枠"_qs).Visible = false;  // a hidden container hides what stands in it
+    EXPECT_FALSE(t.m.見えるか(t.m(u"欄"_qs, 1)));
+}
+
+TEST(画面モデル, 押すと焦点を持てる部品はタブで止まらなくても焦点を取り枠は取らない) {
+    表の画面 t;
+    int 押下 = 0;
+    t.m(u"釦"_qs).Click = [&] { ++押下; };
+    t.m(u"枠"_qs).Click = [&] { ++押下; };
+    t.m.操作_フォーカス(t.m(u"欄"_qs, 0));
+    t.m.操作_クリック(t.m(u"釦"_qs));
+    EXPECT_EQ(t.m.フォーカス(), &t.m(u"釦"_qs));
+    t.m.操作_クリック(t.m(u"枠"_qs));
+    EXPECT_EQ(t.m.フォーカス(), &t.m(u"釦"_qs));
+    EXPECT_EQ(押下, 2);
+    t.m.操作_クリック(t.m(u"印"_qs));
+    EXPECT_EQ(t.m.フォーカス(), &t.m(u"印"_qs));
+    EXPECT_EQ(t.m(u"印"_qs).Value, 1);
+}
+
+TEST(画面モデル, 焦点を他へ送られた印は押しても変わらず押した事象も起きない) {
+    表の画面 t;
+    部品& 印 = t.m(u"印"_qs);
+    int 押下 = 0;
+    印.Click = [&] { ++押下; };
+    印.GotFocus = [&] { t.m.SetFocus(t.m(u"欄"_qs, 1)); };
+    t.m.操作_クリック(印);
+    EXPECT_EQ(印.Value, 0);
+    EXPECT_EQ(押下, 0);
+    EXPECT_EQ(t.m.フォーカス(), &t.m(u"欄"_qs, 1));
+}
+
+TEST(画面モデル, 棒の値は最小から最大を出ず変わらなければ変化の事象は起きない) {
+    表の画面 t;
+    部品& 棒 = t.m(u"棒"_qs);
+    int 変化 = 0;
+    棒.Change = [&] { ++変化; };
+    t.m.値設定(棒, -1);
+    EXPECT_EQ(棒.Value, 0);
+    EXPECT_EQ(変化, 0);
+    t.m.値設定(棒, 9);
+    EXPECT_EQ(棒.Value, 3);
+    EXPECT_EQ(変化, 1);
+    t.m.操作_値変更(棒, 7);
+    EXPECT_EQ(棒.Value, 3);
+    EXPECT_EQ(変化, 1);
+    t.m.操作_値変更(棒, -5);
+    EXPECT_EQ(棒.Value, 0);
+    EXPECT_EQ(変化, 2);
+}
+
+TEST(画面モデル, 数の欄は数字と符号と小数を桁まで打てる) {
+    表の画面 t;
+    部品& 欄 = t.m(u"欄"_qs, 0);
+    t.m.操作_入力(欄, u"a-1x23.45"_qs);
+    EXPECT_EQ(欄.Text, u"-123.4"_qs);
+    EXPECT_TRUE(欄.入力可(u"-"_qs));
+    EXPECT_TRUE(欄.入力可(u"12."_qs));
+    EXPECT_FALSE(欄.入力可(u"1-"_qs));
+    EXPECT_FALSE(欄.入力可(u"1234"_qs));
+    欄.Min = 0;
+    欄.Max = 12;
+    EXPECT_TRUE(欄.入力可(u"12"_qs));
+    EXPECT_FALSE(欄.入力可(u"13"_qs));
+    EXPECT_FALSE(欄.入力可(u"-1"_qs));
+    部品& 字 = t.m(u"一の欄"_qs);
+    EXPECT_TRUE(字.入力可(u"taxi"_qs));  // a text field without a digit rule takes anything
+}
+
+}  // namespace
