@@ -4,10 +4,10 @@
 #include <QTextStream>
 #include <QTimer>
 
-#include "app/二重起動.h"
-#include "app/起動処理.h"
 #include "dataenv/ファイル操作.h"
 #include "screen/frm紺碧帳.h"
+#include "slip/二重起動.h"
+#include "slip/起動処理.h"
 #include "ui/Qtプラットフォーム.h"
 #include "ui/入力画面ウィンドウ.h"
 

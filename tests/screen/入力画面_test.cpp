@@ -1,4 +1,5 @@
 #include "screen/次項目補正.h"
+#include "text/マウスホイール.h"
 #include "入力画面試験.h"
 
 namespace {

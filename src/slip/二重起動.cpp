@@ -1,4 +1,4 @@
-#include "app/二重起動.h"
+#include "slip/二重起動.h"
 
 #include <QCryptographicHash>
 

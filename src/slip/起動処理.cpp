@@ -1,7 +1,7 @@
-#include "app/起動処理.h"
+#include "slip/起動処理.h"
 
-#include "screen/次項目補正.h"
 #include "text/プラットフォーム.h"
+#include "text/マウスホイール.h"
 #include "text/数値変換.h"
 
 紺碧帳起動::紺碧帳起動(出金セッション& セッション, 入力画面& 画面_) : s(セッション), 画面(画面_) {}

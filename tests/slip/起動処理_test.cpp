@@ -5,10 +5,10 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "app/二重起動.h"
-#include "app/起動処理.h"
 #include "common/伝票投入.h"
 #include "common/試験用ツリー.h"
+#include "slip/二重起動.h"
+#include "slip/起動処理.h"
 #include "text/台本プラットフォーム.h"
 
 namespace {

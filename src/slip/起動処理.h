@@ -3,7 +3,7 @@
 #include <QString>
 #include <functional>
 
-#include "app/コマンドライン.h"
+#include "slip/コマンドライン.h"
 #include "slip/出金セッション.h"
 
 // What the start-up asks of the entry screen.
