@@ -7,6 +7,7 @@
 
 #include "common/伝票投入.h"
 #include "common/試験用ツリー.h"
+#include "rules/集計日付計算.h"
 #include "slip/二重起動.h"
 #include "slip/起動処理.h"
 #include "text/台本プラットフォーム.h"
@@ -174,7 +175,7 @@ TEST_F(起動, 空白だけの行は通常で何も写さない) {
     ASSERT_EQ(起動処理.プログラム開始(u"     "_qs), 起動結果::稼動);
     EXPECT_FALSE(s.連携起動フラグ);
     EXPECT_FALSE(s.連携新規フラグ);
-    EXPECT_EQ(s.見出し.事業所コード, QString());
+    EXPECT_EQ(s.見出し.事業所コード, u"000"_qs);  // the workplace's, not from the line
 }
 
 TEST_F(起動, キー起動で伝票が読まれる) {
@@ -247,11 +248,101 @@ TEST_F(起動, 連携新規の零の日付は今日になる) {
     EXPECT_EQ(s.見出し.担当者コード, u"00005"_qs);
 }
 
-TEST_F(起動, 連携新規で担当者が退職済みなら今日の素の新規伝票で日付も捨てる) {
-    ASSERT_EQ(起動処理.プログラム開始(u"00100000000000000002026111500012"_qs), 起動結果::稼動);
+// The command line's date lies in the period before today's, whose counter stands elsewhere:
+// only a clear that goes back to today and derives the number again shows today's proposal.
+class 連携新規の担当者なし : public 起動, public ::testing::WithParamInterface<const char16_t*> {};
+
+TEST_P(連携新規の担当者なし, 今日の素の新規伝票になり行の日付は捨てられる) {
+    ASSERT_TRUE(木.業務DB実行(
+        u"INSERT INTO A期日別番号情報 VALUES ('16810', '20260331', '00000005', '00000000')"_qs));
+    ASSERT_TRUE(木.業務DB実行(
+        u"INSERT INTO A期日別番号情報 VALUES ('16810', '20270331', '00000002', '00000000')"_qs));
+    const QString 行 = u"001000000000000000020260315"_qs + QString::fromUtf16(GetParam());
+    ASSERT_EQ(起動処理.プログラム開始(行), 起動結果::稼動);
+    EXPECT_TRUE(基盤.表示済み.isEmpty());
     EXPECT_TRUE(s.連携起動フラグ);
+    EXPECT_TRUE(s.連携新規フラグ);
+    EXPECT_TRUE(s.新規情報フラグ);
     EXPECT_EQ(s.見出し.担当者コード, QString());
-    EXPECT_EQ(s.見出し.出金日付, u"20261115"_qs);  // a clear keeps the date it is on
+    EXPECT_EQ(s.見出し.担当者名, QString());
+    EXPECT_EQ(s.見出し.事業所コード, u"001"_qs);
+    EXPECT_EQ(s.見出し.出金日付, u"20261122"_qs);
+    EXPECT_EQ(s.見出し.出金日付年 + s.見出し.出金日付月 + s.見出し.出金日付日, u"20261122"_qs);
+    EXPECT_EQ(s.見出し.番号基準日付, u"20270331"_qs);
+    EXPECT_EQ(s.見出し.出金No, u"00000003"_qs);
+    EXPECT_EQ(s.見出し.会計集計日付, 集計日付計算(s.データ.会社, u"20261122"_qs));
+}
+
+// 00012 works at office 001 and has left; 99999 is no one.
+INSTANTIATE_TEST_SUITE_P(担当者, 連携新規の担当者なし, ::testing::Values(u"00012", u"99999"),
+                         [](const auto& i) { return QString::fromUtf16(i.param).toStdString(); });
+
+// The same start with a present staff member keeps the date of the command line.
+TEST_F(起動, 連携新規で担当者が在籍なら行の日付の系列から番号を出す) {
+    ASSERT_TRUE(木.業務DB実行(
+        u"INSERT INTO A期日別番号情報 VALUES ('16810', '20260331', '00000005', '00000000')"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(u"00100000000000000002026031500008"_qs), 起動結果::稼動);
+    EXPECT_EQ(s.見出し.出金日付, u"20260315"_qs);
+    EXPECT_EQ(s.見出し.番号基準日付, u"20260331"_qs);
+    EXPECT_EQ(s.見出し.出金No, u"00000006"_qs);
+    EXPECT_EQ(s.見出し.担当者名, u"工藤 直樹"_qs);
+}
+
+// The office of the workplace with its own counters, so that the proposal tells whose it is.
+class 作業事業所 : public 起動 {
+  protected:
+    void 事業所別の番号() {
+        ASSERT_TRUE(木.業務DB実行(u"UPDATE Mユーザ SET 伝票番号管理区分 = 1"_qs));
+        ASSERT_TRUE(木.業務DB実行(
+            u"INSERT INTO A事業所別期日別番号情報 VALUES ('000', '16810', '20270331', '00000007', '00000000')"_qs));
+        ASSERT_TRUE(木.業務DB実行(
+            u"INSERT INTO A事業所別期日別番号情報 VALUES ('001', '16810', '20270331', '00000041', '00000000')"_qs));
+    }
+    bool 担当者あり(const QString& コード) {
+        const bool あり = s.担当者検索(コード);
+        s.担当者検索破棄();
+        return あり;
+    }
+};
+
+TEST_F(作業事業所, 本社で手で起こすと伝票は本社のもので本社の系列から番号を出す) {
+    ASSERT_NO_FATAL_FAILURE(事業所別の番号());
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
+    EXPECT_EQ(s.データ.作業事業所コード, u"000"_qs);
+    EXPECT_EQ(s.見出し.事業所コード, u"000"_qs);
+    EXPECT_EQ(s.見出し.番号基準日付, u"20270331"_qs);
+    EXPECT_EQ(s.見出し.出金No, u"00000008"_qs);
+    // The head office finds staff of every office.
+    EXPECT_TRUE(担当者あり(u"00008"_qs));
+    EXPECT_TRUE(担当者あり(u"00010"_qs));
+}
+
+TEST_F(作業事業所, 支店で手で起こすと伝票は支店のもので支店の系列から番号を出す) {
+    ASSERT_NO_FATAL_FAILURE(事業所別の番号());
+    ASSERT_TRUE(木.環境DB実行(u"UPDATE 動作環境定義 SET 運用事業所コード = '001'"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
+    EXPECT_EQ(s.データ.作業事業所コード, u"001"_qs);
+    EXPECT_EQ(s.見出し.事業所コード, u"001"_qs);
+    EXPECT_EQ(s.見出し.出金No, u"00000042"_qs);
+    EXPECT_TRUE(担当者あり(u"00008"_qs));   // the branch's own
+    EXPECT_TRUE(担当者あり(u"00003"_qs));   // the head office's
+    EXPECT_FALSE(担当者あり(u"00010"_qs));  // another branch's
+    EXPECT_FALSE(担当者あり(u"00012"_qs));  // the branch's, left
+
+    // A clear keeps the office and proposes from its counter again.
+    s.見出し.出金No = u"00000099"_qs;
+    s.出金情報初期化();
+    EXPECT_EQ(s.見出し.事業所コード, u"001"_qs);
+    EXPECT_EQ(s.見出し.出金No, u"00000042"_qs);
+}
+
+TEST_F(作業事業所, 支店でも行の事業所が伝票の事業所になる) {
+    ASSERT_TRUE(木.環境DB実行(u"UPDATE 動作環境定義 SET 運用事業所コード = '001'"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(u"00200000000000000002026111500010"_qs), 起動結果::稼動);
+    EXPECT_EQ(s.見出し.事業所コード, u"002"_qs);
+    EXPECT_EQ(s.見出し.担当者名, u"斉藤 誠"_qs);
+    s.出金情報初期化();
+    EXPECT_EQ(s.見出し.事業所コード, u"002"_qs);
 }
 
 TEST(二重起動検査, 同じ利用者と同じフォルダの二つ目だけが起動中と知る) {
