@@ -24,8 +24,8 @@ class 紺碧帳起動 {
   public:
     紺碧帳起動(出金セッション& セッション, 入力画面& 画面);
 
-    // Answers whether this program already runs by hand for this user; asked at one fixed
-    // point of the start.
+    // Answers whether another run of this program, linked or by hand, is up for this user and
+    // program folder; asked at one fixed point of the start, by a hand start only.
     std::function<bool()> 他に起動中 = [] { return false; };
 
     起動結果 プログラム開始(const QString& コマンドライン);

@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <memory>
+#include <vector>
 
 #include "common/伝票投入.h"
 #include "common/試験用ツリー.h"
@@ -345,41 +348,139 @@ TEST_F(作業事業所, 支店でも行の事業所が伝票の事業所にな�
     EXPECT_EQ(s.見出し.事業所コード, u"002"_qs);
 }
 
-TEST(二重起動検査, 同じ利用者と同じフォルダの二つ目だけが起動中と知る) {
+TEST(二重起動検査, 印は生きている間だけ置かれ自分のものは他と数えない) {
     QTemporaryDir t;
-    二重起動検査 一つ目(t.path(), u"/tree/prgbin"_qs, u"user"_qs);
-    EXPECT_FALSE(一つ目.他に起動中());
-    EXPECT_FALSE(一つ目.他に起動中());  // the holder itself is not another
-    二重起動検査 二つ目(t.path(), u"/tree/prgbin"_qs, u"user"_qs);
-    EXPECT_TRUE(二つ目.他に起動中());
-    二重起動検査 別の木(t.path(), u"/other/prgbin"_qs, u"user"_qs);
-    EXPECT_FALSE(別の木.他に起動中());
+    QStringList 印;
+    {
+        二重起動検査 検査(t.path(), u"/tree/prgbin"_qs, u"user"_qs);
+        EXPECT_FALSE(検査.他に起動中());
+        EXPECT_FALSE(検査.他に起動中());
+        const QStringList 印フォルダ = QDir(t.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        ASSERT_EQ(印フォルダ.size(), 1);
+        印 = QDir(t.path() + u'/' + 印フォルダ[0]).entryList(QDir::Files);
+        EXPECT_EQ(印,
+                  QStringList{QString::number(QCoreApplication::applicationPid()) + u".lock"_qs});
+        二重起動検査 別の木(t.path(), u"/other/prgbin"_qs, u"user"_qs);
+        二重起動検査 別の人(t.path(), u"/tree/prgbin"_qs, u"other"_qs);
+        EXPECT_EQ(QDir(t.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size(), 3);
+    }
+    for (const QString& 印フォルダ : QDir(t.path()).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        EXPECT_TRUE(QDir(t.path() + u'/' + 印フォルダ).entryList(QDir::Files).isEmpty());
+    }
 }
 
-// The real program on a real tree: it starts, shows its window, and closes by the frame.
-TEST(実行ファイル, 見本の木で窓を出し閉じると開始と終了を残す) {
+// The real program on a real tree, with temporary files of its own so that marks of other
+// runs on this machine do not count.
+class 実行ファイル : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(木.作成済み);
+        ASSERT_TRUE(一時.isValid());
+        const QString 元 = QStringLiteral(KONPEKI_BINARY_DIR) + u"/src/app/紺碧帳"_qs;
+        ASSERT_TRUE(QFile::copy(元, プログラム()));
+    }
+    void TearDown() override {
+        for (auto& p : 常駐) {
+            p->kill();
+            p->waitForFinished(10000);
+        }
+    }
+
+    QString プログラム() const { return 木.プログラムフォルダ() + u"/紺碧帳"_qs; }
+
+    std::unique_ptr<QProcess> 起こす(const QStringList& 引数, bool 表示後に閉じる) {
+        auto p = std::make_unique<QProcess>();
+        auto env = QProcessEnvironment::systemEnvironment();
+        env.insert(u"QT_QPA_PLATFORM"_qs, u"offscreen"_qs);
+        env.insert(u"TMPDIR"_qs, 一時.path());
+        env.remove(u"KONPEKI_CLOSE_WHEN_SHOWN"_qs);
+        env.remove(u"KONPEKI_SCREENSHOT"_qs);
+        if (表示後に閉じる) env.insert(u"KONPEKI_CLOSE_WHEN_SHOWN"_qs, u"1"_qs);
+        p->setProcessEnvironment(env);
+        p->start(プログラム(), 引数);
+        return p;
+    }
+
+    // Runs the program to its end and answers what it printed.
+    QString 走らせる(const QStringList& 引数) {
+        auto p = 起こす(引数, true);
+        EXPECT_TRUE(p->waitForFinished(30000));
+        EXPECT_EQ(p->exitCode(), 0);
+        return QString::fromUtf8(p->readAllStandardOutput());
+    }
+
+    // Starts the program and leaves it up; returns once its start row is written, by which
+    // time its mark is held.
+    void 常駐させる(const QStringList& 引数) {
+        const qsizetype 前 = 履歴().size();
+        常駐.push_back(起こす(引数, false));
+        QProcess& p = *常駐.back();
+        for (int i = 0; i < 600 && 履歴().size() == 前; ++i) {
+            ASSERT_FALSE(p.waitForFinished(50)) << "the program ended before its start";
+        }
+        ASSERT_EQ(履歴().size(), 前 + 1) << "no start row";
+    }
+
+    // The start and end rows of every run in the order written (each run counts from 1, so
+    // the counter orders one run only); traces of statements left out.
+    QStringList 履歴() {
+        QStringList r;
+        for (const auto& 行 :
+             木.環境DB行(u"SELECT 摘要 FROM プログラム稼動履歴 ORDER BY rowid"_qs)) {
+            const QString 摘要 = 行[0].toString();
+            if (摘要.startsWith(u"開始"_qs) || 摘要.startsWith(u"終了"_qs)) r.append(摘要);
+        }
+        return r;
+    }
+
     試験用ツリー 木;
-    ASSERT_TRUE(木.作成済み);
-    const QString 元 = QStringLiteral(KONPEKI_BINARY_DIR) + u"/src/app/紺碧帳"_qs;
-    ASSERT_TRUE(QFile::copy(元, 木.プログラムフォルダ() + u"/紺碧帳"_qs));
-    QProcess p;
-    auto env = QProcessEnvironment::systemEnvironment();
-    env.insert(u"QT_QPA_PLATFORM"_qs, u"offscreen"_qs);
-    env.insert(u"KONPEKI_CLOSE_WHEN_SHOWN"_qs, u"1"_qs);
-    p.setProcessEnvironment(env);
-    p.start(木.プログラムフォルダ() + u"/紺碧帳"_qs, {});
-    ASSERT_TRUE(p.waitForFinished(30000));
-    EXPECT_EQ(p.exitCode(), 0);
-    const QString 出力 = QString::fromUtf8(p.readAllStandardOutput());
+    QTemporaryDir 一時;
+    std::vector<std::unique_ptr<QProcess>> 常駐;
+};
+
+TEST_F(実行ファイル, 見本の木で窓を出し閉じると開始と終了を残す) {
+    const QString 出力 = 走らせる({});
     const QString 会社名 =
         木.業務DB行(u"SELECT 名称 FROM Mユーザ WHERE ID = '0001'"_qs)[0][0].toString();
     EXPECT_TRUE(出力.startsWith(u"shown "_qs + 会社名 + u"（紺碧帳）"_qs)) << 出力.toStdString();
-    QStringList r;
-    for (const auto& 行 :
-         木.環境DB行(u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs)) {
-        r.append(行[0].toString() + u" "_qs + 行[1].toString());
-    }
-    EXPECT_EQ(r, (QStringList{u"000000000001 開始 "_qs, u"000000000002 終了"_qs}));
+    EXPECT_EQ(履歴(), (QStringList{u"開始 "_qs, u"終了"_qs}));
+}
+
+TEST_F(実行ファイル, 連携で動いている間の手の起動は黙って止まり開始と終了を残す) {
+    ASSERT_NO_FATAL_FAILURE(常駐させる({u"0002024040100000001"_qs}));
+    const QString 出力 = 走らせる({});
+    EXPECT_FALSE(出力.contains(u"shown"_qs)) << 出力.toStdString();
+    EXPECT_EQ(履歴(), (QStringList{u"開始 0002024040100000001"_qs, u"開始 "_qs, u"終了"_qs}));
+
+    // A run that ended without a word leaves a mark that no longer counts.
+    常駐.back()->kill();
+    ASSERT_TRUE(常駐.back()->waitForFinished(10000));
+    EXPECT_TRUE(走らせる({}).startsWith(u"shown "_qs));
+}
+
+TEST_F(実行ファイル, 手で動いている横でも連携の起動は進み二つ目の手の起動は止まる) {
+    ASSERT_NO_FATAL_FAILURE(常駐させる({}));
+    EXPECT_TRUE(走らせる({u"0002024040100000001"_qs}).startsWith(u"shown "_qs));
+    EXPECT_FALSE(走らせる({}).contains(u"shown"_qs));
+    EXPECT_EQ(履歴(), (QStringList{u"開始 "_qs, u"開始 0002024040100000001"_qs, u"終了"_qs,
+                                   u"開始 "_qs, u"終了"_qs}));
+}
+
+// A sibling passes the fixed positions as one argument; the blank date keeps the staff code at
+// position 28.
+TEST_F(実行ファイル, 一つの引数の中の空白は位置として残る) {
+    const QString 行 = u"001"_qs + u"00000000"_qs + u"00000000"_qs + u"        "_qs + u"00003"_qs;
+    const QString 出力 = 走らせる({行});
+    EXPECT_TRUE(出力.contains(u"\nslip 001|00003\n"_qs)) << 出力.toStdString();
+    EXPECT_EQ(履歴(), (QStringList{u"開始 "_qs + 行, u"終了"_qs}));
+}
+
+// Several arguments are joined by one blank each: the same fields split into arguments move
+// the staff code out of place, and a code that is no one gives no staff.
+TEST_F(実行ファイル, 幾つもの引数は一つの空白でつながる) {
+    const QString 出力 = 走らせる({u"0010000000000000000"_qs, u"20261115"_qs, u"00003"_qs});
+    EXPECT_TRUE(出力.contains(u"\nslip 001|\n"_qs)) << 出力.toStdString();
+    EXPECT_EQ(履歴().first(), u"開始 0010000000000000000 20261115 00003"_qs);
 }
 
 }  // namespace
