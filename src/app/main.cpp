@@ -4,10 +4,10 @@
 #include <QTextStream>
 #include <QTimer>
 
-#include "app/二重起動.h"
-#include "app/起動処理.h"
 #include "dataenv/ファイル操作.h"
 #include "screen/frm紺碧帳.h"
+#include "slip/二重起動.h"
+#include "slip/起動処理.h"
 #include "ui/Qtプラットフォーム.h"
 #include "ui/入力画面ウィンドウ.h"
 
@@ -22,21 +22,25 @@ int main(int argc, char** argv) {
     frm紺碧帳 モデル(セッション);
     入力画面ウィンドウ 画面(モデル);
     紺碧帳起動 起動(セッション, 画面);
+    // Every run, linked or by hand, takes its mark here and holds it to the end.
     二重起動検査 検査(QDir::tempPath(), QCoreApplication::applicationDirPath(), 端末利用者名取得());
     起動.他に起動中 = [&] { return 検査.他に起動中(); };
     画面.閉じる時 = [&] { 起動.停止処理(); };
     画面.伝票読込 = [&] { 起動.伝票読込(); };
+    // Siblings pass the fixed-position text as one argument, whose inner blanks are positions.
     const QString コマンドライン = QCoreApplication::arguments().mid(1).join(u' ');
     if (起動.プログラム開始(コマンドライン) == 起動結果::停止) return 0;
 
-    // For the benchmark and the tests: a picture of the window, word that it is up, and a close
-    // as an operator would close it.
+    // For the benchmark and the tests: a picture of the window, word that it is up with the
+    // slip's office and staff, and a close as an operator would close it.
     const QString 写真 = qEnvironmentVariable("KONPEKI_SCREENSHOT");
     if (qEnvironmentVariableIsSet("KONPEKI_CLOSE_WHEN_SHOWN") || !写真.isEmpty()) {
         QTimer::singleShot(0, [&] {
             ScreenWindow* 窓 = 画面.窓();
             if (!写真.isEmpty()) 窓->grab().save(写真);
-            QTextStream(stdout) << "shown " << 窓->windowTitle() << Qt::endl;
+            QTextStream(stdout) << "shown " << 窓->windowTitle() << Qt::endl
+                                << "slip " << セッション.見出し.事業所コード << u'|'
+                                << セッション.見出し.担当者コード << Qt::endl;
             if (qEnvironmentVariableIsSet("KONPEKI_CLOSE_WHEN_SHOWN")) 窓->close();
         });
     }

@@ -85,10 +85,6 @@ struct 出金行 : 明細税額 {
 inline constexpr int 最大行数 = 15;
 inline constexpr int 表示行数 = 5;
 
-// Columns of the stored tables in the order the store writes them.
-extern const QStringList T出金列;
-extern const QStringList T出金明細列;
-
 // The columns (behind SELECT) and joins of the header read: staff joined inner, department and
 // section outer.
 extern const QString 出金見出し列;

@@ -23,10 +23,11 @@ QString 条件値取出(const QString& 項目名, const QString& 条件, QString
 // Half-width letters, digits, signs and kana to their full-width forms; all else unchanged.
 QString 文字種変換(const QString& 文字列);
 // The longest start of the text that takes at most 上限 bytes in Shift-JIS (CP932); a
-// double-byte character at the limit is dropped whole.
+// double-byte character at the limit, or a surrogate pair, is dropped whole. A limit of 0 or
+// below gives empty text.
 QString バイト長切詰(const QString& 文字列, int 上限);
-// Shift-JIS bytes of the text, whatever the locale; a character that Shift-JIS lacks counts one
-// byte, the "?" it would become.
+// Shift-JIS bytes of the text, whatever the locale; each UTF-16 unit that Shift-JIS lacks
+// counts one byte, the "?" it would become (so a character beyond the basic plane counts two).
 int シフトJISバイト長(const QString& 文字列);
 
 // Repairs a typed date in place. All three 0: left alone. A valid date: left as typed. Otherwise

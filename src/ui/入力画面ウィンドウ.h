@@ -3,8 +3,8 @@
 #include <functional>
 #include <memory>
 
-#include "app/起動処理.h"
 #include "screen/frm紺碧帳.h"
+#include "slip/起動処理.h"
 #include "ui/画面ウィンドウ.h"
 
 // The entry screen as the start-up sees it: loading the model, then drawing it in a window.

@@ -12,7 +12,8 @@ bool 伝票投入(試験用ツリー& 木, const 試験伝票& t) {
         q(t.事業所コード) + u","_qs + q(t.番号基準日付) + u","_qs + q(t.出金No) + u","_qs +
         q(t.出金日付) + u","_qs + q(t.担当者コード) + u","_qs + q(t.部門コード) + u","_qs +
         q(t.セクションコード) + u",'','','','備考その一','備考その二',"_qs + QString::number(合計) +
-        u","_qs + QString::number(税) + u","_qs + QString::number(合計 + 税) + u",0,0,0,0,"_qs +
+        u","_qs + QString::number(税) + u","_qs + QString::number(合計 + 税) + u","_qs +
+        QString::number(合計) + u","_qs + QString::number(合計 + 税) + u",0,0,"_qs +
         QString::number(合計) + u","_qs + QString::number(税) +
         u",'1','メモ','','','0','user','20251120 100000','')"_qs;
     if (!木.業務DB実行(見出し)) return false;

@@ -64,17 +64,6 @@ TEST_P(出金記録, 明細の消去は十六番目の枠に触れない) {
     EXPECT_EQ(s.表示行, 0);
 }
 
-TEST_P(出金記録, 承認区分は書く列に入らない) {
-    EXPECT_EQ(T出金列.size(), 28);
-    EXPECT_EQ(T出金明細列.size(), 27);
-    EXPECT_FALSE(T出金列.contains(u"承認区分"_qs));
-    EXPECT_FALSE(T出金明細列.contains(u"承認区分"_qs));
-    EXPECT_EQ(T出金列.first(), u"事業所コード"_qs);
-    EXPECT_EQ(T出金列.last(), u"更新日付"_qs);
-    EXPECT_EQ(T出金明細列.at(3), u"出金固有行No"_qs);
-    EXPECT_EQ(T出金明細列.at(20), u"会計集計日付"_qs);
-}
-
 TEST_P(出金記録, 合計は税率の組ごとに税抜額と税を分ける) {
     s.最終行 = 3;
     auto 行 = [&](int i, int 率, int 額, int 税) {

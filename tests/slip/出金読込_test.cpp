@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "dataenv/ファイル操作.h"
 #include "出金試験.h"
 
 namespace {
@@ -15,6 +16,17 @@ class 出金読込 : public 出金試験 {
         s.出金明細初期化();
         s.出金明細読込();
         return true;
+    }
+    // Rows of T閲覧 as "a|b|c", in the order of their browse numbers.
+    QStringList 閲覧行(const QString& 列) {
+        QStringList r;
+        for (const auto& 行 :
+             木->業務DB行(u"SELECT "_qs + 列 + u" FROM T閲覧 ORDER BY 閲覧No"_qs)) {
+            QStringList 値;
+            for (const auto& v : 行) 値.append(v.toString());
+            r.append(値.join(u'|'));
+        }
+        return r;
     }
 };
 
@@ -37,13 +49,82 @@ TEST_P(出金読込, キーで見出しと明細と名前が読まれ保持キ�
     EXPECT_EQ(h.最大固有行No, 3);
     EXPECT_EQ(s.合計.出金金額合計, 金額::円(6000));
     EXPECT_EQ(s.合計.今回税率出金消費税合計, 金額::円(600));
-    EXPECT_TRUE(s.合計.税抜出金金額合計.ゼロか());  // not read on load
+    EXPECT_TRUE(s.合計.税抜出金金額合計.ゼロか());  // stored as 6000, but not read on load
+    EXPECT_TRUE(s.合計.税込出金金額合計.ゼロか());  // stored as 6600, but not read on load
     EXPECT_EQ(s.最終行, 2);
     EXPECT_EQ(s.行[1].出金金額, 金額::円(2000));
     EXPECT_EQ(s.行[1].費目区分名称, u"消耗品費"_qs);
     EXPECT_EQ(s.行[1].支払先, u"支払先002"_qs);
     EXPECT_FALSE(s.新規情報フラグ);
     EXPECT_FALSE(s.入力変更フラグ);
+}
+
+// The stored totals are taken as they stand, even when the lines add up to something else.
+TEST_P(出金読込, 合計は記録された値を読み明細から計算し直さない) {
+    投入(u"00000005"_qs, u"20251118"_qs, 3);
+    ASSERT_TRUE(木->業務DB実行(
+        u"UPDATE T出金 SET 出金金額合計 = 12345, 出金消費税合計 = 17, 実質出金金額合計 = 99,"
+        " 前回税率出金金額合計 = 5, 前回税率出金消費税合計 = 3, 今回税率出金金額合計 = 7,"
+        " 今回税率出金消費税合計 = 1"_qs));
+    ASSERT_TRUE(読込(u"00000005"_qs));
+    EXPECT_EQ(s.合計.出金金額合計, 金額::円(12345));
+    EXPECT_EQ(s.合計.出金消費税合計, 金額::円(17));
+    EXPECT_EQ(s.合計.実質出金金額合計, 金額::円(99));
+    EXPECT_EQ(s.合計.前回税率出金金額合計, 金額::円(5));
+    EXPECT_EQ(s.合計.前回税率出金消費税合計, 金額::円(3));
+    EXPECT_EQ(s.合計.今回税率出金金額合計, 金額::円(7));
+    EXPECT_EQ(s.合計.今回税率出金消費税合計, 金額::円(1));
+    EXPECT_TRUE(s.合計.税抜出金金額合計.ゼロか());
+    EXPECT_TRUE(s.合計.税込出金金額合計.ゼロか());
+    s.合計再計算();
+    EXPECT_EQ(s.合計.出金金額合計, 金額::円(6000));
+}
+
+// The approval marks come along with the slip and each line, and a clear drops them.
+TEST_P(出金読込, 承認の区分は見出しと明細から読まれ消去で消える) {
+    投入(u"00000005"_qs, u"20251118"_qs, 2);
+    ASSERT_TRUE(木->業務DB実行(
+        u"UPDATE T出金 SET 承認区分 = '1', 承認日付 = '20251119', 承認者コード = '00002'"_qs));
+    ASSERT_TRUE(木->業務DB実行(u"UPDATE T出金明細 SET 承認区分 = '2' WHERE 出金行No = '002'"_qs));
+    ASSERT_TRUE(読込(u"00000005"_qs));
+    EXPECT_EQ(s.見出し.承認区分, u"1"_qs);
+    EXPECT_EQ(s.見出し.承認日付, u"20251119"_qs);
+    EXPECT_EQ(s.見出し.承認者コード, u"00002"_qs);
+    EXPECT_EQ(s.行[0].承認区分, u"0"_qs);
+    EXPECT_EQ(s.行[1].承認区分, u"2"_qs);
+    s.出金情報初期化();
+    EXPECT_EQ(s.見出し.承認区分, QString());
+    EXPECT_EQ(s.行[1].承認区分, QString());
+}
+
+// Every look-up by key leaves one browse row with all its columns: the operator's code from the
+// workplace settings and, since the operator's name is not read, an empty name.
+TEST_P(出金読込, キー検索は一回ごとに決まった値の閲覧行を残す) {
+    投入(u"00000005"_qs, u"20251118"_qs);
+    ASSERT_TRUE(読込(u"00000005"_qs));
+    const QString 利用者 = 端末利用者名取得() + u"00001"_qs + 端末名取得();
+    EXPECT_EQ(閲覧行(u"*"_qs),
+              QStringList{u"000|99999999|00000001|20251120|10:00:00|00001||紺碧帳|000|20260331|"
+                          "00000005||0||||0|"_qs +
+                          利用者 + u"|20251120 100000|"_qs});
+}
+
+// Each step reads its neighbour through the key look-up, so each step found leaves a row, in
+// the order of the steps; a step that finds nothing reads nothing and leaves none.
+TEST_P(出金読込, 頁送りは一歩ごとに閲覧Noの順に閲覧行を残す) {
+    投入(u"00000002"_qs, u"20251110"_qs);
+    投入(u"00000003"_qs, u"20251111"_qs);
+    投入(u"00000004"_qs, u"20251112"_qs);
+    ASSERT_TRUE(読込(u"00000003"_qs));
+    ASSERT_TRUE(s.次No読込());
+    EXPECT_FALSE(s.次No読込());
+    ASSERT_TRUE(s.前No読込());
+    ASSERT_TRUE(s.前No読込());
+    EXPECT_FALSE(読込(u"00000099"_qs));
+    EXPECT_EQ(閲覧行(u"閲覧No, 伝票No, 担当者コード, 担当者名"_qs),
+              (QStringList{u"00000001|00000003|00001|"_qs, u"00000002|00000004|00001|"_qs,
+                           u"00000003|00000003|00001|"_qs, u"00000004|00000002|00001|"_qs,
+                           u"00000005|00000099|00001|"_qs}));
 }
 
 TEST_P(出金読込, キー検索は読む前に閲覧を記録し文を履歴に残す) {
@@ -188,19 +269,22 @@ TEST_P(出金読込, 最初の伝票では前は何もしない) {
     EXPECT_EQ(s.最終行, 1);
 }
 
+// "10" comes before "9" as text, after it as a number: only the text order passes.
 TEST_P(出金読込, 同じ日付の伝票は番号の文字順で進む) {
-    投入(u"00000002"_qs, u"20251110"_qs);
-    投入(u"00000010"_qs, u"20251110"_qs);
-    投入(u"00000003"_qs, u"20251111"_qs);
-    ASSERT_TRUE(読込(u"00000002"_qs));
-    ASSERT_TRUE(s.次No確認());
+    投入(u"9"_qs, u"20251110"_qs);
+    投入(u"10"_qs, u"20251110"_qs);
+    投入(u"3"_qs, u"20251111"_qs);
+    ASSERT_TRUE(読込(u"10"_qs));
+    EXPECT_FALSE(s.前No確認());
     ASSERT_TRUE(s.次No読込());
-    EXPECT_EQ(s.見出し.出金No, u"00000010"_qs);
+    EXPECT_EQ(s.見出し.出金No, u"9"_qs);
     ASSERT_TRUE(s.次No読込());
-    EXPECT_EQ(s.見出し.出金No, u"00000003"_qs);
+    EXPECT_EQ(s.見出し.出金No, u"3"_qs);
     EXPECT_FALSE(s.次No確認());
     ASSERT_TRUE(s.前No読込());
-    EXPECT_EQ(s.見出し.出金No, u"00000010"_qs);
+    EXPECT_EQ(s.見出し.出金No, u"9"_qs);
+    ASSERT_TRUE(s.前No読込());
+    EXPECT_EQ(s.見出し.出金No, u"10"_qs);
 }
 
 TEST_P(出金読込, 基準日付は並びに加わらず日付と番号だけで進む) {

@@ -13,8 +13,8 @@
 #include <QTest>
 #include <QWheelEvent>
 
-#include "app/起動処理.h"
 #include "common/試験用ツリー.h"
+#include "slip/起動処理.h"
 #include "text/台本プラットフォーム.h"
 #include "ui/入力画面ウィンドウ.h"
 

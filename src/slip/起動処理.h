@@ -3,7 +3,7 @@
 #include <QString>
 #include <functional>
 
-#include "app/コマンドライン.h"
+#include "slip/コマンドライン.h"
 #include "slip/出金セッション.h"
 
 // What the start-up asks of the entry screen.
@@ -24,8 +24,8 @@ class 紺碧帳起動 {
   public:
     紺碧帳起動(出金セッション& セッション, 入力画面& 画面);
 
-    // Answers whether this program already runs by hand for this user; asked at one fixed
-    // point of the start.
+    // Answers whether another run of this program, linked or by hand, is up for this user and
+    // program folder; asked at one fixed point of the start, by a hand start only.
     std::function<bool()> 他に起動中 = [] { return false; };
 
     起動結果 プログラム開始(const QString& コマンドライン);
@@ -46,6 +46,8 @@ class 紺碧帳起動 {
     起動コマンド コマンド;
 
   private:
+    // The slip date from the clock, its parts and the whole; nothing derived yet.
+    void 今日の出金日付();
     bool 人事連携選択(const QString& 業務名);
     bool 人事連携開始();
     void 人事連携終了();

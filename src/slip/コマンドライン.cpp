@@ -1,4 +1,4 @@
-#include "app/コマンドライン.h"
+#include "slip/コマンドライン.h"
 
 起動コマンド 起動コマンド::解析(const QString& 引数) {
     起動コマンド c;

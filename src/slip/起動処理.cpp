@@ -1,7 +1,7 @@
-#include "app/起動処理.h"
+#include "slip/起動処理.h"
 
-#include "screen/次項目補正.h"
 #include "text/プラットフォーム.h"
+#include "text/マウスホイール.h"
 #include "text/数値変換.h"
 
 紺碧帳起動::紺碧帳起動(出金セッション& セッション, 入力画面& 画面_) : s(セッション), 画面(画面_) {}
@@ -77,16 +77,24 @@ bool 紺碧帳起動::データベース開始() {
 
 bool 紺碧帳起動::ユーザ情報初期化() {
     const bool 結果 = s.データ.基本項目読込();
+    // The slip is entered for the workplace's office, so that its number comes from that
+    // office's counters; a command line may still name another.
+    s.見出し.事業所コード = s.データ.作業事業所コード;
     s.最終行 = -1;
     s.新規情報フラグ = true;
-    const QDate 今日 = s.データ.基盤.現在時刻().date();
-    s.見出し.出金日付年 = QString::number(今日.year()).rightJustified(4, u'0');
-    s.見出し.出金日付月 = QString::number(今日.month()).rightJustified(2, u'0');
-    s.見出し.出金日付日 = QString::number(今日.day()).rightJustified(2, u'0');
-    s.見出し.出金日付 = s.見出し.出金日付年 + s.見出し.出金日付月 + s.見出し.出金日付日;
+    今日の出金日付();
     s.出金日付確定();
     s.軽減税率表示 = false;
     return 結果;
+}
+
+void 紺碧帳起動::今日の出金日付() {
+    auto& h = s.見出し;
+    const QDate 今日 = s.データ.基盤.現在時刻().date();
+    h.出金日付年 = QString::number(今日.year()).rightJustified(4, u'0');
+    h.出金日付月 = QString::number(今日.month()).rightJustified(2, u'0');
+    h.出金日付日 = QString::number(今日.day()).rightJustified(2, u'0');
+    h.出金日付 = h.出金日付年 + h.出金日付月 + h.出金日付日;
 }
 
 void 紺碧帳起動::伝票読込() {
@@ -113,11 +121,7 @@ void 紺碧帳起動::起動条件読込() {
     h.出金日付 = コマンド.出金日付;
     h.担当者コード = コマンド.担当者コード;
     if (数値変換(h.出金日付) == 0) {
-        const QDate 今日 = s.データ.基盤.現在時刻().date();
-        h.出金日付年 = QString::number(今日.year()).rightJustified(4, u'0');
-        h.出金日付月 = QString::number(今日.month()).rightJustified(2, u'0');
-        h.出金日付日 = QString::number(今日.day()).rightJustified(2, u'0');
-        h.出金日付 = h.出金日付年 + h.出金日付月 + h.出金日付日;
+        今日の出金日付();
     } else {
         h.出金日付年 = h.出金日付.mid(0, 4);
         h.出金日付月 = h.出金日付.mid(4, 2);
@@ -126,9 +130,12 @@ void 紺碧帳起動::起動条件読込() {
     s.出金日付確定();
     if (h.担当者コード.trimmed().isEmpty()) return;
     if (!s.担当者検索(h.担当者コード)) {
-        // The date and staff of the command line are lost: a plain new slip for today.
+        // The date and staff of the command line are lost: a plain new slip for today. A clear
+        // keeps the date it is on, so the date goes back to today and what hangs on it follows.
         s.担当者検索破棄();
         s.出金情報初期化();
+        今日の出金日付();
+        s.出金日付確定();
         return;
     }
     s.担当者取込();

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "app/コマンドライン.h"
+#include "slip/コマンドライン.h"
 
 namespace {
 

@@ -1,0 +1,5 @@
+#include "text/マウスホイール.h"
+
+bool ウィンドウプロシージャ復元() {
+    return true;
+}
