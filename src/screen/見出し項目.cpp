@@ -90,8 +90,8 @@ QString 番号一覧条件(const 画面モデル& 画面, const QString& 表, co
     return 条件;
 }
 
-// The HR link's program folder. The link's connection and folders come with a later issue;
-// until then no folder is known and the trip application program is never started.
+// The HR link's program folder. This build reads no HR link folder yet, so none is known and
+// the trip application program is never started.
 QString 人事連携プログラムフォルダ(const 出金セッション&) {
     return {};
 }

@@ -1,7 +1,6 @@
 #include <QFile>
 
 #include "screen/次項目補正.h"
-#include "text/マウスホイール.h"
 #include "入力画面試験.h"
 
 namespace {
