@@ -24,10 +24,11 @@ class 台本プラットフォーム : public プラットフォーム {
     int イベント処理回数 = 0;
     int 最前面回数 = 0;
     QList<bool> お待ち履歴;
-    QList<QPair<QString, bool>> 表示画面;   // every window shown, with its modality
-    QList<QPair<QString, bool>> 使用可否;   // every enabling or disabling of a window
+    QList<QPair<QString, bool>> 表示画面;  // every window shown, with its modality
+    QList<QPair<QString, bool>> 使用可否;  // every enabling or disabling of a window
     // What a modal window does while it is up: the test plays the operator there.
-    std::function<void(const QString&)> 画面表示時;  // each show (true) and hide (false) of the waiting window
+    std::function<void(const QString&)>
+        画面表示時;  // each show (true) and hide (false) of the waiting window
 
     応答 メッセージ表示(const メッセージ指定& 指定) override;
     QDateTime 現在時刻() const override { return 時刻; }
