@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QDateTime>
+#include <QHash>
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 // Buttons of a message box, as the original's MsgBox styles name them.
 enum class ボタン種別 {
@@ -34,9 +36,22 @@ class プラットフォーム {
     virtual QDateTime 現在時刻() const = 0;
     virtual void 保留イベント処理() = 0;
     // Another window of the program by its name (a list window, a dialogue), modal or not, and
-    // the enabling of a window as a whole.
+    // the enabling of a window as a whole. Showing runs the window's load event first; a modal
+    // show returns once the window has closed itself (画面終了) or was closed by its frame.
     virtual void 画面表示(const QString& 画面名, bool モーダル) = 0;
     virtual void 画面使用可否(const QString& 画面名, bool 可) = 0;
+    // A window unloads itself: the modal show that brought it up returns.
+    virtual void 画面終了(const QString& 画面名) = 0;
+
+    // The load event of a window and what closing it by its frame does before it unloads, by
+    // the window's name; each screen registers its own, and both implementations run them.
+    struct 画面事象 {
+        std::function<void()> 読込;
+        std::function<void()> 枠閉じ;
+    };
+    void 画面事象登録(const QString& 画面名, 画面事象 事象) { 事象表[画面名] = std::move(事象); }
+    void 読込実行(const QString& 画面名) { 実行(画面名, &画面事象::読込); }
+    void 枠閉じ実行(const QString& 画面名) { 実行(画面名, &画面事象::枠閉じ); }
     // Brings the program's active window to the top of the desktop.
     virtual void 最前面表示() = 0;
     // The modeless "please wait" window, shown while files are copied or a slip is stored.
@@ -51,4 +66,11 @@ class プラットフォーム {
         指定.本文 = 本文;
         return メッセージ表示(指定);
     }
+
+  private:
+    void 実行(const QString& 画面名, std::function<void()> 画面事象::*どれ) {
+        const auto it = 事象表.constFind(画面名);
+        if (it != 事象表.cend() && (*it).*どれ) ((*it).*どれ)();
+    }
+    QHash<QString, 画面事象> 事象表;
 };

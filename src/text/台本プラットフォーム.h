@@ -23,21 +23,31 @@ class 台本プラットフォーム : public プラットフォーム {
     QDateTime 時刻 = QDateTime(QDate(2026, 4, 1), QTime(9, 0, 0));
     int イベント処理回数 = 0;
     int 最前面回数 = 0;
-    QList<bool> お待ち履歴;
+    QList<bool> お待ち履歴;  // each show (true) and hide (false) of the waiting window
     QList<QPair<QString, bool>> 表示画面;  // every window shown, with its modality
     QList<QPair<QString, bool>> 使用可否;  // every enabling or disabling of a window
     // What a modal window does while it is up: the test plays the operator there.
-    std::function<void(const QString&)>
-        画面表示時;  // each show (true) and hide (false) of the waiting window
+    std::function<void(const QString&)> 画面表示時;
 
     応答 メッセージ表示(const メッセージ指定& 指定) override;
     QDateTime 現在時刻() const override { return 時刻; }
     void 保留イベント処理() override { ++イベント処理回数; }
     void お待ち表示(bool 表示) override { お待ち履歴.append(表示); }
+    // A show runs the window's load, then the test's operator; a modal window still up after
+    // that is closed as its frame would close it.
     void 画面表示(const QString& 画面名, bool モーダル) override {
         表示画面.append({画面名, モーダル});
+        読込実行(画面名);
         if (画面表示時) 画面表示時(画面名);
+        if (モーダル && !終了画面.contains(画面名)) 枠で閉じる(画面名);
+        終了画面.removeAll(画面名);
     }
+    void 画面終了(const QString& 画面名) override {
+        終了画面.append(画面名);
+        閉じた画面.append(画面名);
+    }
+    QStringList 閉じた画面;  // every unload, in order
+
     void 画面使用可否(const QString& 画面名, bool 可) override { 使用可否.append({画面名, 可}); }
     void 最前面表示() override { ++最前面回数; }
     bool 文書を開く(const QString& パス, const QString& 作業フォルダ) override;
@@ -45,4 +55,11 @@ class 台本プラットフォーム : public プラットフォーム {
                         const QString& 作業フォルダ) override;
 
     QStringList 表示文言() const;
+
+  private:
+    void 枠で閉じる(const QString& 画面名) {
+        枠閉じ実行(画面名);
+        閉じた画面.append(画面名);
+    }
+    QStringList 終了画面;
 };

@@ -9,6 +9,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "ui/画面ウィンドウ.h"
+
 namespace {
 
 struct ボタン定義 {
@@ -108,14 +110,46 @@ bool Qtプラットフォーム::プログラム起動(const QString& プログ�
     return QProcess::startDetached(プログラム, 引数, 作業フォルダ);
 }
 
-void Qtプラットフォーム::画面表示(const QString& 画面名, bool) {
-    // The list windows and dialogues are drawn as they are built; until then the operator is
-    // told that the window is not available.
-    メッセージ(画面名 + u" は準備中です。"_qs);
+void Qtプラットフォーム::画面表示(const QString& 画面名, bool モーダル) {
+    画面モデル* m = 画面群.value(画面名);
+    if (!m) {
+        // A window not built yet: the operator is told instead.
+        メッセージ(画面名 + u" は準備中です。"_qs);
+        return;
+    }
+    // A window may unload itself in its own load: then nothing is shown.
+    開いている[画面名] = {};
+    読込実行(画面名);
+    if (!開いている.contains(画面名)) return;
+    auto* 窓 = new ScreenWindow(*m, QApplication::activeWindow());
+    窓->setWindowFlag(Qt::Dialog);
+    窓->setAttribute(Qt::WA_DeleteOnClose);
+    if (モーダル) 窓->setWindowModality(Qt::ApplicationModal);
+    // A close by the frame runs the window's own answer to it, then unloads it.
+    窓->閉じる時 = [this, 画面名] {
+        if (!開いている.contains(画面名)) return;
+        枠閉じ実行(画面名);
+        画面終了(画面名);
+    };
+    開いている[画面名] = {窓, nullptr};
+    窓->show();
+    窓->raise();
+    窓->activateWindow();
+    窓->反映();
+    if (!モーダル) return;
+    QEventLoop 待ち;
+    開いている[画面名].待ち = &待ち;
+    待ち.exec();
+}
+
+void Qtプラットフォーム::画面終了(const QString& 画面名) {
+    const 開いた画面 開 = 開いている.take(画面名);
+    if (開.窓) 開.窓->close();
+    if (開.待ち) 開.待ち->quit();
 }
 
 void Qtプラットフォーム::画面使用可否(const QString&, bool) {
-    // Nothing to enable or disable while the list windows themselves are not drawn.
+    // Modal windows keep the others from input by themselves.
 }
 
 void Qtプラットフォーム::最前面表示() {

@@ -1,7 +1,11 @@
 #pragma once
 
+#include <QEventLoop>
+#include <QHash>
 #include <QPointer>
 #include <QWidget>
+
+#include "screen/画面モデル.h"
 
 #include "text/プラットフォーム.h"
 
@@ -14,6 +18,9 @@ class Qtプラットフォーム : public プラットフォーム {
     void お待ち表示(bool 表示) override;
     void 画面表示(const QString& 画面名, bool モーダル) override;
     void 画面使用可否(const QString& 画面名, bool 可) override;
+    void 画面終了(const QString& 画面名) override;
+    // A window the program shows by name, drawn from its model.
+    void 画面登録(const QString& 画面名, 画面モデル& モデル) { 画面群[画面名] = &モデル; }
     void 最前面表示() override;
     bool 文書を開く(const QString& パス, const QString& 作業フォルダ) override;
     bool プログラム起動(const QString& プログラム, const QStringList& 引数,
@@ -22,5 +29,11 @@ class Qtプラットフォーム : public プラットフォーム {
     QString 既定の題名 = u"紺碧帳"_qs;
 
   private:
+    struct 開いた画面 {
+        QPointer<QWidget> 窓;
+        QPointer<QEventLoop> 待ち;
+    };
+    QHash<QString, 画面モデル*> 画面群;
+    QHash<QString, 開いた画面> 開いている;
     QPointer<QWidget> お待ち画面;
 };
