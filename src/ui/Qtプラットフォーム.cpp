@@ -2,12 +2,10 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QLabel>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QUrl>
-#include <QVBoxLayout>
 
 #include "ui/画面ウィンドウ.h"
 
@@ -88,12 +86,12 @@ void Qtプラットフォーム::お待ち表示(bool 表示) {
         if (お待ち画面) お待ち画面->close();
         return;
     }
+    画面モデル* m = 画面群.value(u"msgお待ち"_qs);
+    if (!m) return;
     if (!お待ち画面) {
-        auto* w = new QWidget(nullptr, Qt::Dialog | Qt::WindowStaysOnTopHint);
+        auto* w = new ScreenWindow(*m, QApplication::activeWindow());
+        w->setWindowFlags(Qt::Dialog | Qt::WindowStaysOnTopHint);
         w->setAttribute(Qt::WA_DeleteOnClose);
-        w->setWindowTitle(既定の題名);
-        auto* l = new QVBoxLayout(w);
-        l->addWidget(new QLabel(u"処理中です。しばらくお待ちください。"_qs, w));
         お待ち画面 = w;
     }
     お待ち画面->show();

@@ -122,6 +122,14 @@ void ScreenWindow::作る() {
     }
 }
 
+void ScreenWindow::色を合わせる(const 部品& p, QWidget* w, QPalette::ColorRole 役) {
+    const QColor 色 = p.ForeColor < 0 ? palette().color(役) : QColor::fromRgb(p.ForeColor);
+    if (w->palette().color(役) == 色) return;
+    QPalette pal = w->palette();
+    pal.setColor(役, 色);
+    w->setPalette(pal);
+}
+
 void ScreenWindow::反映() {
     同期中 = true;
     setWindowTitle(m.Caption);
@@ -134,15 +142,10 @@ void ScreenWindow::反映() {
         if (auto* e = qobject_cast<QLineEdit*>(w)) {
             if (p.MaxLength > 0) e->setMaxLength(p.MaxLength);
             if (e->text() != p.Text) e->setText(p.Text);
-            const QColor 色 =
-                p.ForeColor < 0 ? palette().color(QPalette::Text) : QColor::fromRgb(p.ForeColor);
-            if (e->palette().color(QPalette::Text) != 色) {
-                QPalette pal = e->palette();
-                pal.setColor(QPalette::Text, 色);
-                e->setPalette(pal);
-            }
+            色を合わせる(p, w, QPalette::Text);
         } else if (auto* l = qobject_cast<QLabel*>(w)) {
             l->setText(p.Caption);
+            色を合わせる(p, w, QPalette::WindowText);
         } else if (auto* b = qobject_cast<QPushButton*>(w)) {
             b->setText(p.Caption);
         } else if (auto* c = qobject_cast<QComboBox*>(w)) {

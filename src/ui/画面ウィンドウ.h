@@ -30,6 +30,8 @@ class ScreenWindow : public QWidget {
     // the model first, and the widgets follow the model afterwards.
     void 操作(const std::function<void()>& 動作);
     void 入力を渡す();
+    // The control's colour, or the window's own for that role when the control has none.
+    void 色を合わせる(const 部品& p, QWidget* w, QPalette::ColorRole 役);
     // A mouse press on a control's widget; true when the press must go no further.
     bool 押下(部品& p, QWidget* w);
 
