@@ -89,8 +89,11 @@ void Qtプラットフォーム::お待ち表示(bool 表示) {
     画面モデル* m = 画面群.value(u"msgお待ち"_qs);
     if (!m) return;
     if (!お待ち画面) {
-        auto* w = new ScreenWindow(*m, QApplication::activeWindow());
+        auto* w = new ScreenWindow(*m);
         w->setWindowFlags(Qt::Dialog | Qt::WindowStaysOnTopHint);
+        if (QWidget* 上 = QApplication::activeWindow()) {
+            w->move(上->geometry().center() - w->rect().center());
+        }
         w->setAttribute(Qt::WA_DeleteOnClose);
         お待ち画面 = w;
     }
@@ -119,8 +122,12 @@ void Qtプラットフォーム::画面表示(const QString& 画面名, bool モ
     開いている[画面名] = {};
     読込実行(画面名);
     if (!開いている.contains(画面名)) return;
-    auto* 窓 = new ScreenWindow(*m, QApplication::activeWindow());
+    // A window of its own, placed over the window that was active; a parent would take the
+    // dialogue down with it.
+    QWidget* 上 = QApplication::activeWindow();
+    auto* 窓 = new ScreenWindow(*m);
     窓->setWindowFlag(Qt::Dialog);
+    if (上) 窓->move(上->geometry().center() - 窓->rect().center());
     窓->setAttribute(Qt::WA_DeleteOnClose);
     if (モーダル) 窓->setWindowModality(Qt::ApplicationModal);
     // A close by the frame runs the window's own answer to it, then unloads it.
