@@ -6,6 +6,7 @@
 
 #include "dataenv/ファイル操作.h"
 #include "screen/frm紺碧帳.h"
+#include "screen/msg暗証番号確認.h"
 #include "slip/二重起動.h"
 #include "slip/起動処理.h"
 #include "ui/Qtプラットフォーム.h"
@@ -20,6 +21,8 @@ int main(int argc, char** argv) {
     セッション.データ.自身のフォルダ = QCoreApplication::applicationDirPath();
 
     frm紺碧帳 モデル(セッション);
+    msg暗証番号確認 暗証確認(セッション.データ);
+    基盤.画面登録(暗証確認.画面.名前, 暗証確認.画面);
     入力画面ウィンドウ 画面(モデル);
     紺碧帳起動 起動(セッション, 画面);
     // Every run, linked or by hand, takes its mark here and holds it to the end.

@@ -287,14 +287,3 @@ bool データ環境::環境DB実行記録付(const QString& 文) {
     出力履歴書込(文);
     return true;
 }
-
-bool データ環境::操作者読込() {
-    操作者.担当者コード.clear();
-    記録集合 rs;
-    if (環境DB検索(rs, u"SELECT * FROM 動作環境定義 WHERE 動作環境定義ID = '001'"_qs) &&
-        !rs.Null(u"起動担当者コード"_qs)) {
-        操作者.担当者コード = rs.文字列(u"起動担当者コード"_qs);
-    }
-    rs.閉じる();
-    return !操作者.担当者コード.trimmed().isEmpty();
-}

@@ -4,17 +4,12 @@
 
 #include "dataenv/データ接続.h"
 #include "dataenv/会社情報.h"
+#include "dataenv/操作権限.h"
 #include "dataenv/暗証解読部品.h"
 #include "dataenv/環境情報.h"
 #include "dataenv/記録集合.h"
 
 class プラットフォーム;
-
-// The operator of this workplace, as the run history and the rights check see him.
-struct 操作者情報 {
-    QString 担当者コード;
-    QString 氏名;
-};
 
 // The data side of the one session of a run: where the program stands, its two connections,
 // and the run history that traces them. A test makes a fresh one for each case.
@@ -52,20 +47,35 @@ class データ環境 {
     void 出力履歴書込(const QString& 文);
     void エラー履歴書込(const QString& 文言);
 
-    bool 操作者読込();
-
     // Company settings, read once after the general database opened.
     会社情報 会社;
     事業所情報 事業所;
     short 事業所件数 = 0;
     他業務連携情報 他業務連携;
-    bool 暗証番号要否 = false;
+    short 暗証番号要否 = 0;  // 暗証番号有無 in force: 1 asks PINs and enforces the rights
     const 暗証解読部品* 暗証解読 = &平文解読;
 
     bool 基本項目読込();
     void 事業所情報読込();
     void 他業務連携読込();
     void 運用事業所変更(const QString& 事業所コード);
+
+    // The operator and his rights, read anew at every check so that a change of operator in
+    // another program counts at once.
+    bool 権限確認済 = false;  // the operator was confirmed and the last decision permitted
+    QString 暗証確認題名;     // caption of the PIN window for the check that opens it
+    bool 操作者読込();
+    bool 操作者情報読込(const QString& 担当者コード);
+    void 操作者確定();
+    bool 操作権限判定(const QString& 業務メニュー, const QString& プログラムID, short 操作区分);
+    bool 操作権限照会(const QString& 業務メニュー, const QString& プログラムID, short 操作区分);
+    // -1 permitted; 0 nobody confirmed; 1 confirmed by PIN but refused (see 操作権限OK).
+    short 操作権限確認(const QString& 業務メニュー, const QString& プログラムID, short 操作区分);
+    // The one-line title of the main window: program, office or "(全社)", operator.
+    QString 画面タイトル設定();
+    // Labels of a program's condition items A..Z in a menu table; missing ones are stored empty.
+    bool 条件項目名保存(const QString& 表名, const QString& プログラムID,
+                        const QStringList& 項目名);
 
     データ接続& 環境DB() { return 環境接続; }
     データ接続& 業務DB() { return 業務接続; }

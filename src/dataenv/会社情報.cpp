@@ -104,7 +104,7 @@ bool データ環境::基本項目読込() {
     const bool 行あり = 業務DB検索(rs, u"SELECT * FROM Mユーザ WHERE ID = '0001'"_qs);
     if (行あり) {
         会社行を読む(rs, 会社, *暗証解読);
-        暗証番号要否 = 会社.暗証番号有無 != 0;
+        暗証番号要否 = 会社.暗証番号有無;
     }
     rs.閉じる();
     if (!行あり) return false;
@@ -173,7 +173,7 @@ void データ環境::事業所情報読込() {
 
         // A branch office speaks for itself where it has something to say.
         if (環境.運用事業所コード != u"000") {
-            暗証番号要否 = o.暗証番号有無 != 0;
+            暗証番号要否 = o.暗証番号有無;
             会社.更新実行区分 = o.更新実行区分;
             const std::pair<QString*, const QString*> 上書き[] = {
                 {&会社.総合振込ファイル, &o.総合振込ファイル},

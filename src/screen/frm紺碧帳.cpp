@@ -149,6 +149,7 @@ void frm紺碧帳::マニュアル表示() {
 
 void frm紺碧帳::画面読込(const std::function<void()>& 伝票読込) {
     画面初期配置();
+    画面(u"prg_ttl"_qs).Caption = s.データ.画面タイトル設定();
     if (伝票読込) 伝票読込();
     画面全表示();
     詳細初期化();

@@ -25,7 +25,8 @@ class frm紺碧帳 {
     // Asked when Tab leaves the last remark after a change; the register flow answers it.
     std::function<void()> 登録処理;
 
-    // The screen's load step: lay out, fill the lists, load or clear the slip, display.
+    // The screen's load step: lay out, fill the lists, title the window, load or clear the slip,
+    // display.
     void 画面読込(const std::function<void()>& 伝票読込);
 
     // Layout, display and focus.

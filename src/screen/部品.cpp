@@ -4,8 +4,9 @@
 
 QString 種別名(部品種別 種別) {
     static const char16_t* const 名前[] = {
-        u"xField", u"xNum",     u"xText",    u"xLabel",   u"SSCommand",  u"SSPanel",
-        u"SSTab",  u"ListView", u"ComboBox", u"CheckBox", u"VScrollBar", u"CommonDialog",
+        u"xField",    u"xNum",       u"xText",        u"xLabel",   u"xPass",
+        u"SSCommand", u"SSPanel",    u"SSTab",        u"ListView", u"ComboBox",
+        u"CheckBox",  u"VScrollBar", u"CommonDialog",
     };
     return QString::fromUtf16(名前[static_cast<int>(種別)]);
 }

@@ -10,6 +10,7 @@ enum class 部品種別 {
     xNum,
     xText,
     xLabel,
+    xPass,  // a field that hides what is typed
     SSCommand,
     SSPanel,
     SSTab,

@@ -28,7 +28,7 @@
         return 起動結果::停止;
     }
     連携条件項目登録(u"翠嶺"_qs, u"紺碧帳"_qs);
-    if (!操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 0)) {
+    if (!操作権限OK(s.データ.操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 0))) {
         基盤.メッセージ(u"操作権限がありません。"_qs);
         終了処理();
         return 起動結果::停止;
@@ -154,13 +154,8 @@ void 紺碧帳起動::起動条件読込() {
 }
 
 void 紺碧帳起動::連携条件項目登録(const QString& メニュー名, const QString& プログラム名) {
-    QString 文 = u"UPDATE "_qs + メニュー名 + u" SET 条件項目名A = '事業所コード'"_qs +
-                 u", 条件項目名B = '番号基準日付'"_qs + u", 条件項目名C = '出金No'"_qs;
-    for (char16_t c = u'D'; c <= u'Z'; ++c) 文 += u", 条件項目名"_qs + QChar(c) + u" = ''"_qs;
-    文 += u" WHERE プログラムID = '"_qs + プログラム名 + u"'"_qs;
-    if (!s.データ.環境DB実行(文)) {
-        s.データ.基盤.メッセージ(u"システムデータベースに問題があり登録できません"_qs);
-    }
+    s.データ.条件項目名保存(メニュー名, プログラム名,
+                            {u"事業所コード"_qs, u"番号基準日付"_qs, u"出金No"_qs});
 }
 
 bool 紺碧帳起動::人事連携選択(const QString& 業務名) {
@@ -181,11 +176,6 @@ bool 紺碧帳起動::人事連携開始() {
 }
 
 void 紺碧帳起動::人事連携終了() {}
-
-bool 紺碧帳起動::操作権限確認(const QString&, const QString&, int) {
-    // Every operator may use the program until the rights of M担当者 are read.
-    return true;
-}
 
 void 紺碧帳起動::終了処理() {
     // The answer row to a waiting link request is written here once program links are read.

@@ -51,7 +51,6 @@ class 紺碧帳起動 {
     bool 人事連携選択(const QString& 業務名);
     bool 人事連携開始();
     void 人事連携終了();
-    bool 操作権限確認(const QString& メニュー名, const QString& プログラム名, int 操作区分);
 
     出金セッション& s;
     入力画面& 画面;

@@ -35,9 +35,11 @@ QWidget* 作成(部品& p, QWidget* 親) {
     switch (p.種別) {
         case 部品種別::xField:
         case 部品種別::xNum:
-        case 部品種別::xText: {
+        case 部品種別::xText:
+        case 部品種別::xPass: {
             auto* e = new QLineEdit(親);
             if (p.種別 == 部品種別::xNum) e->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            if (p.種別 == 部品種別::xPass) e->setEchoMode(QLineEdit::Password);
             e->setValidator(new 部品の検査(p, e));
             return e;
         }

@@ -8,8 +8,9 @@
 #include "text/台本プラットフォーム.h"
 
 // A session opened on a tree as the start leaves it, through the start's own routines:
-// databases open, company and workplace read, and an empty slip of the workplace's office for
-// the scripted clock's day.
+// databases open, company and workplace read, the operator's right to the program checked (so
+// that his record is read), and an empty slip of the workplace's office for the scripted
+// clock's day.
 inline void 出金セッション準備(出金セッション& s, 試験用ツリー& 木) {
     struct 見えない画面 : 入力画面 {
         void 表示() override {}
@@ -19,4 +20,5 @@ inline void 出金セッション準備(出金セッション& s, 試験用ツ�
     s.データ.自身のフォルダ = 木.プログラムフォルダ();
     ASSERT_TRUE(起動.データベース開始());
     ASSERT_TRUE(起動.ユーザ情報初期化());
+    ASSERT_TRUE(操作権限OK(s.データ.操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 0)));
 }

@@ -27,6 +27,12 @@ TEST_F(入力画面, 配置は題名と幅と長さの制限と一覧を整え�
     EXPECT_EQ(s.入力中項目, &c(u"担当者コード"_qs));
 }
 
+// The head office of a company with branches works for all of it; the operator checked at the
+// start stands in the title panel.
+TEST_F(入力画面, 題の枠は全社と操作者の名前を示す) {
+    EXPECT_EQ(c(u"prg_ttl"_qs).Caption, u"紺碧帳(全社)「青木 翔太」"_qs);
+}
+
 TEST_F(入力画面, 見出しの順番と止まる項目は表の通り) {
     const char16_t* 順[] = {u"出金日付年",       u"出金日付月",   u"出金日付日", u"出金No",
                             u"担当者コード",     u"担当者名",     u"部門コード", u"部門名",

@@ -98,15 +98,16 @@ TEST_P(出金読込, 承認の区分は見出しと明細から読まれ消去�
 }
 
 // Every look-up by key leaves one browse row with all its columns: the operator's code from the
-// workplace settings and, since the operator's name is not read, an empty name.
+// workplace settings and his name, read by the rights check of the start.
 TEST_P(出金読込, キー検索は一回ごとに決まった値の閲覧行を残す) {
     投入(u"00000005"_qs, u"20251118"_qs);
     ASSERT_TRUE(読込(u"00000005"_qs));
     const QString 利用者 = 端末利用者名取得() + u"00001"_qs + 端末名取得();
-    EXPECT_EQ(閲覧行(u"*"_qs),
-              QStringList{u"000|99999999|00000001|20251120|10:00:00|00001||紺碧帳|000|20260331|"
-                          "00000005||0||||0|"_qs +
-                          利用者 + u"|20251120 100000|"_qs});
+    EXPECT_EQ(
+        閲覧行(u"*"_qs),
+        QStringList{u"000|99999999|00000001|20251120|10:00:00|00001|青木 翔太|紺碧帳|000|20260331|"
+                    "00000005||0||||0|"_qs +
+                    利用者 + u"|20251120 100000|"_qs});
 }
 
 // Each step reads its neighbour through the key look-up, so each step found leaves a row, in
@@ -122,9 +123,10 @@ TEST_P(出金読込, 頁送りは一歩ごとに閲覧Noの順に閲覧行を残
     ASSERT_TRUE(s.前No読込());
     EXPECT_FALSE(読込(u"00000099"_qs));
     EXPECT_EQ(閲覧行(u"閲覧No, 伝票No, 担当者コード, 担当者名"_qs),
-              (QStringList{u"00000001|00000003|00001|"_qs, u"00000002|00000004|00001|"_qs,
-                           u"00000003|00000003|00001|"_qs, u"00000004|00000002|00001|"_qs,
-                           u"00000005|00000099|00001|"_qs}));
+              (QStringList{
+                  u"00000001|00000003|00001|青木 翔太"_qs, u"00000002|00000004|00001|青木 翔太"_qs,
+                  u"00000003|00000003|00001|青木 翔太"_qs, u"00000004|00000002|00001|青木 翔太"_qs,
+                  u"00000005|00000099|00001|青木 翔太"_qs}));
 }
 
 TEST_P(出金読込, キー検索は読む前に閲覧を記録し文を履歴に残す) {

@@ -94,6 +94,33 @@ TEST_F(起動, 翠嶺の表が書けなければ知らせて開始は続く) {
     EXPECT_EQ(画面.表示回数, 1);
 }
 
+// Nobody answers the PIN window here: it closes by its frame, and the start ends.
+TEST_F(起動, 暗証番号のある会社で拒まれた操作者は操作権限がありませんで止まる) {
+    ASSERT_TRUE(木.業務DB実行(u"UPDATE Mユーザ SET 暗証番号有無 = 1"_qs));
+    ASSERT_TRUE(木.業務DB実行(
+        u"UPDATE 担当者別操作許可プログラム SET 操作許可 = '1' WHERE プログラムID = '紺碧帳'"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
+    EXPECT_EQ(基盤.表示画面, (QList<QPair<QString, bool>>{{u"msg暗証番号確認"_qs, true}}));
+    EXPECT_EQ(基盤.表示文言(), QStringList{u"操作権限がありません。"_qs});
+    EXPECT_EQ(画面.表示回数, 0);
+    EXPECT_EQ(履歴().last(), u"000000000002 終了"_qs);
+}
+
+TEST_F(起動, 暗証番号のある会社で許された操作者は窓なしで始まる) {
+    ASSERT_TRUE(木.業務DB実行(u"UPDATE Mユーザ SET 暗証番号有無 = 1"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
+    EXPECT_TRUE(基盤.表示画面.isEmpty());
+    EXPECT_EQ(s.データ.操作者.氏名, u"青木 翔太"_qs);
+}
+
+TEST_F(起動, 暗証番号の無い会社では拒まれた操作者でも始まる) {
+    ASSERT_TRUE(木.業務DB実行(
+        u"UPDATE 担当者別操作許可プログラム SET 操作許可 = '1' WHERE プログラムID = '紺碧帳'"_qs));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
+    EXPECT_TRUE(基盤.表示画面.isEmpty());
+    EXPECT_EQ(画面.表示回数, 1);
+}
+
 TEST_F(起動, データベースが開かなければ知らせて終了処理をして止まる) {
     QFile::remove(木.業務DB());
     ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
