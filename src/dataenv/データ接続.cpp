@@ -79,6 +79,8 @@ bool データ接続::開く(const 接続先& 先) {
 }
 
 void データ接続::閉じる() {
+    一括 = false;
+    解放待ち = false;
     if (!QSqlDatabase::contains(接続名)) return;
     {
         QSqlDatabase db = QSqlDatabase::database(接続名, false);
@@ -97,7 +99,7 @@ bool データ接続::検索(記録集合& 結果, const QString& 文) {
     結果.問合せ->setForwardOnly(true);
     // Numbers come as their decimal text, so money is never passed through a double.
     結果.問合せ->setNumericalPrecisionPolicy(QSql::HighPrecision);
-    if (!結果.問合せ->exec(SQL方言変換(文, 変換先))) {
+    if (!文実行(*結果.問合せ, SQL方言変換(文, 変換先))) {
         エラー記録(結果.問合せ->lastError());
         return false;
     }
@@ -111,9 +113,54 @@ bool データ接続::実行(const QString& 文) {
         return false;
     }
     QSqlQuery q(生接続());
-    if (!q.exec(SQL方言変換(文, 変換先))) {
+    if (!文実行(q, SQL方言変換(文, 変換先))) {
         エラー記録(q.lastError());
         return false;
     }
     return true;
+}
+
+bool データ接続::制御文(const QString& 文) {
+    QSqlQuery q(生接続());
+    if (q.exec(文)) return true;
+    エラー記録(q.lastError());
+    return false;
+}
+
+bool データ接続::文実行(QSqlQuery& q, const QString& 文) {
+    if (!一括) return q.exec(文);
+    if (解放待ち) 制御文(u"RELEASE SAVEPOINT konpeki_stmt"_qs);
+    解放待ち = false;
+    制御文(u"SAVEPOINT konpeki_stmt"_qs);
+    if (q.exec(文)) {
+        // PostgreSQL hands the rows of a forward query over one by one, and any statement in
+        // between drops the rest: a query's savepoint goes with the next statement.
+        if (q.isSelect()) {
+            解放待ち = true;
+        } else {
+            制御文(u"RELEASE SAVEPOINT konpeki_stmt"_qs);
+        }
+        return true;
+    }
+    // Undone alone: the run goes on, as it would after a failed statement of its own.
+    制御文(u"ROLLBACK TO SAVEPOINT konpeki_stmt"_qs);
+    制御文(u"RELEASE SAVEPOINT konpeki_stmt"_qs);
+    return false;
+}
+
+bool データ接続::一括開始() {
+    if (一括 || !開いている() || 変換先 == SQL方言::そのまま) return true;
+    一括 = 制御文(変換先 == SQL方言::SQLite ? u"BEGIN IMMEDIATE"_qs : u"BEGIN"_qs);
+    return 一括;
+}
+
+bool データ接続::一括終了() {
+    if (!一括) return true;
+    一括 = false;
+    解放待ち = false;
+    if (制御文(u"COMMIT"_qs)) return true;
+    const 接続エラー 失敗 = エラー;
+    制御文(u"ROLLBACK"_qs);
+    エラー = 失敗;
+    return false;
 }

@@ -42,14 +42,28 @@ class データ接続 {
     bool 検索(記録集合& 結果, const QString& 文);
     bool 実行(const QString& 文);
 
+    // A run of statements that other users see whole, after one commit. Each statement still
+    // succeeds or fails alone, inside a savepoint of its own, so a failure is what it would be
+    // without the run. SQLite takes the write lock at the start, so that nobody else reads a
+    // number counter between our read and our commit; under PostgreSQL the counter row stays
+    // locked from our update to the commit. ODBC engines run statement by statement. False
+    // only when the start or the commit failed.
+    bool 一括開始();
+    bool 一括終了();
+    bool 一括中() const { return 一括; }
+
     const 接続エラー& 最終エラー() const { return エラー; }
     SQL方言 方言() const { return 変換先; }
     QSqlDatabase 生接続() const;
 
   private:
     void エラー記録(const QSqlError& e);
+    bool 文実行(QSqlQuery& q, const QString& 文);
+    bool 制御文(const QString& 文);
 
     QString 接続名;
     SQL方言 変換先 = SQL方言::SQLite;
     接続エラー エラー;
+    bool 一括 = false;
+    bool 解放待ち = false;  // the savepoint of a query whose rows may still be coming
 };

@@ -42,6 +42,11 @@ class データ環境 {
     bool 環境DB実行(const QString& 文);
     bool 環境DB実行記録付(const QString& 文);
 
+    // The statements of one store on the general database, committed together; a failure to
+    // begin or to commit is logged like any statement (see データ接続::一括開始).
+    void 業務DB一括開始();
+    void 業務DB一括終了();
+
     void 開始履歴書込();
     void 終了履歴書込();
     void 出力履歴書込(const QString& 文);
@@ -92,4 +97,17 @@ class データ環境 {
     平文暗証解読 平文解読;
     データ接続 環境接続{u"conf"_qs};
     データ接続 業務接続{u"gnr"_qs};
+};
+
+// One store's run of statements on the general database, committed when it goes out of scope
+// at the latest.
+class 業務DB一括 {
+  public:
+    explicit 業務DB一括(データ環境& e) : 環境(e) { 環境.業務DB一括開始(); }
+    ~業務DB一括() { 環境.業務DB一括終了(); }
+    業務DB一括(const 業務DB一括&) = delete;
+    業務DB一括& operator=(const 業務DB一括&) = delete;
+
+  private:
+    データ環境& 環境;
 };

@@ -165,11 +165,39 @@ class 出金セッション {
     void 担当者取込();
     void 担当者検索破棄() { 担当者結果.閉じる(); }
 
+    // Storing the slip in memory: a new slip, or a correction as the old rows moved to the
+    // history and the new state inserted afresh. Every statement stands alone; a failure is
+    // logged and the sequence goes on, so a store never stops half-way with an error.
+    // False when the number typed by hand is already stored.
+    bool 新規登録処理();
+    void 修正登録処理();
+
+    // The steps of a store, in the orders above; a deletion runs the two old-state writers.
+    bool 番号採番確認();
+    void 出金情報書込();
+    void 出金明細情報書込();
+    void 出金履歴書込();
+    void 出金明細履歴書込();
+    QString 出金履歴No採番();
+    void 後処理();
+
+    // The outcome of the last statement of a store: each statement overwrites both.
+    // 1 inserted, 3 insert failed or number taken, 6 delete failed or nothing to delete,
+    // 7 deleted.
+    short 処理結果区分 = 0;
+    QString 処理結果メッセージ;
+
     // Whether a schedule activity refers to the stored slip; asked before its number moves.
     std::function<bool()> 日程連携確認 = [] { return false; };
+    // Moves the schedule activities of the kept key to the slip's new key, after a correction
+    // that took the slip into another number sequence.
+    std::function<void()> 日程連携書換 = [] {};
 
   private:
     QString 隣接文(bool 前) const;
+    bool 行あり(const QString& 文);
+    void 挿入結果(bool 成功);
+    void 削除結果(bool 成功);
     bool 隣接読込(bool 前);
 
     記録集合 見出し結果;  // open between 出金キー検索 and 出金見出し読込

@@ -7,26 +7,9 @@ namespace {
 
 class 出金読込 : public 出金試験 {
   protected:
-    bool 読込(const QString& No, const QString& 基準日付 = u"20260331"_qs) {
-        if (!s.出金キー検索(u"000"_qs, 基準日付, No)) {
-            s.出金検索破棄();
-            return false;
-        }
-        s.出金見出し読込();
-        s.出金明細初期化();
-        s.出金明細読込();
-        return true;
-    }
     // Rows of T閲覧 as "a|b|c", in the order of their browse numbers.
     QStringList 閲覧行(const QString& 列) {
-        QStringList r;
-        for (const auto& 行 :
-             木->業務DB行(u"SELECT "_qs + 列 + u" FROM T閲覧 ORDER BY 閲覧No"_qs)) {
-            QStringList 値;
-            for (const auto& v : 行) 値.append(v.toString());
-            r.append(値.join(u'|'));
-        }
-        return r;
+        return 表の行(u"SELECT "_qs + 列 + u" FROM T閲覧 ORDER BY 閲覧No"_qs);
     }
 };
 
