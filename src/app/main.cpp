@@ -23,6 +23,8 @@ int main(int argc, char** argv) {
     frm紺碧帳 モデル(セッション);
     msg暗証番号確認 暗証確認(セッション.データ);
     基盤.画面登録(暗証確認.画面.名前, 暗証確認.画面);
+    基盤.画面登録(モデル.印刷確認.画面.名前, モデル.印刷確認.画面);
+    基盤.画面登録(モデル.お待ち.画面.名前, モデル.お待ち.画面);
     入力画面ウィンドウ 画面(モデル);
     紺碧帳起動 起動(セッション, 画面);
     // Every run, linked or by hand, takes its mark here and holds it to the end.
@@ -30,6 +32,9 @@ int main(int argc, char** argv) {
     起動.他に起動中 = [&] { return 検査.他に起動中(); };
     画面.閉じる時 = [&] { 起動.停止処理(); };
     画面.伝票読込 = [&] { 起動.伝票読込(); };
+    モデル.終了要求 = [&] {
+        if (画面.窓()) 画面.窓()->close();
+    };
     // Siblings pass the fixed-position text as one argument, whose inner blanks are positions.
     const QString コマンドライン = QCoreApplication::arguments().mid(1).join(u' ');
     if (起動.プログラム開始(コマンドライン) == 起動結果::停止) return 0;

@@ -3,6 +3,8 @@
 #include <QString>
 #include <functional>
 
+#include "screen/msgお待ち.h"
+#include "screen/msg印刷確認.h"
 #include "screen/画面モデル.h"
 #include "slip/出金セッション.h"
 
@@ -22,8 +24,17 @@ class frm紺碧帳 {
     bool 費目区分不正 = false;  // the last expense class typed was not a class
     bool 画面使用中 = false;    // a modal window of this screen is up
 
-    // Asked when Tab leaves the last remark after a change; the register flow answers it.
-    std::function<void()> 登録処理;
+    // The dialogues of the register flow.
+    msg印刷確認 印刷確認{s};
+    msgお待ち お待ち;
+    // The print of a stored slip, by its 19-character key; the report program is not started
+    // by this build yet, so the request goes here.
+    std::function<void(const QString& 伝票鍵)> 印刷;
+    // The end of the program, as the quit button ends it; a linked run ends after a store.
+    std::function<void()> 終了要求;
+
+    // The register flow: right and period, the question, the store, the new slip.
+    void 登録処理();
 
     // The screen's load step: lay out, fill the lists, title the window, load or clear the slip,
     // display.

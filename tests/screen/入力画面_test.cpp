@@ -214,16 +214,15 @@ TEST_F(入力画面, 行のない伝票では備考に入れず一行目へ戻�
 TEST_F(入力画面, 変更のあと備考Bを抜けると登録が求められ先頭の項目に戻る) {
     見出しを埋める();
     行を入れる(1);
-    int 求め = 0;
-    f->登録処理 = [&] { ++求め; };
+    auto 求め = [this] { return 基盤.表示画面.count({u"msg印刷確認"_qs, true}); };
     f->画面.操作_フォーカス(c(u"出金伝票備考B"_qs));
     f->画面.操作_Tab();
-    EXPECT_EQ(求め, 0);  // nothing changed yet
+    EXPECT_EQ(求め(), 0);  // nothing changed yet
     EXPECT_EQ(焦点(), u"担当者コード"_qs);
     s.入力変更フラグ = true;
     f->画面.操作_フォーカス(c(u"出金伝票備考B"_qs));
     f->画面.操作_Tab();
-    EXPECT_EQ(求め, 1);
+    EXPECT_EQ(求め(), 1);
 }
 
 TEST_F(入力画面, 行挿入は十五行目で行複写は一行目で使えない) {

@@ -312,3 +312,39 @@ TEST_F(入力画面ウィンドウ試験, 題の枠を押すとその項目を�
 }
 
 }  // namespace
+
+namespace {
+
+TEST_F(入力画面ウィンドウ試験, 窓で打った伝票を備考Bから登録すると次の新規伝票が出る) {
+    基盤.画面表示時 = [this](const QString& 名) {
+        if (名 == u"msg印刷確認") f.印刷確認.画面.操作_クリック(f.印刷確認.画面(u"btn_登録"_qs));
+    };
+    打つ(u"3"_qs);
+    Tab();
+    打つ(u"3"_qs);
+    Tab();
+    支払先までTab();
+    打つ(u"文具店"_qs);
+    Tab();
+    打つ(u"用紙"_qs);
+    Tab();
+    打つ(u"1200"_qs);
+    Tab();
+    QTest::mouseClick(w(u"出金伝票備考A"_qs), Qt::LeftButton);
+    打つ(u"十一月分"_qs);
+    Tab();
+    Tab();
+    const auto 行 = 木.業務DB行(u"SELECT 出金No, 出金金額合計, 出金伝票備考A FROM T出金"_qs);
+    ASSERT_EQ(行.size(), 1);
+    EXPECT_EQ(行[0][0].toString(), u"00000001"_qs);
+    EXPECT_EQ(行[0][1].toLongLong(), 1200);
+    EXPECT_EQ(行[0][2].toString(), u"十一月分"_qs);
+    EXPECT_EQ(欄(u"出金No"_qs)->text(), u"00000002"_qs);
+    EXPECT_EQ(欄(u"担当者コード"_qs)->text(), QString());
+    EXPECT_EQ(欄(u"摘要"_qs, 0)->text(), QString());
+    EXPECT_EQ(焦点(), u"担当者コード"_qs);
+    一致を確かめる();
+    写真(u"登録の後"_qs);
+}
+
+}  // namespace
