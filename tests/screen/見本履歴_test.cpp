@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include "common/試験用ツリー.h"
+#include "screen/見本履歴.h"
+
+namespace {
+
+// The sample history typed through the entry screen: what it stores agrees as if operators had
+// stored it.
+class 見本履歴 : public ::testing::Test {
+  protected:
+    int 数(const QString& 文) { return 木.業務DB行(文)[0][0].toInt(); }
+    試験用ツリー 木;
+};
+
+TEST_F(見本履歴, 二年度にわたる伝票が番号と履歴と待ち行列の揃った形で残る) {
+    ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
+    QString エラー;
+    ASSERT_EQ(見本履歴作成(木.プログラムフォルダ(), QDate(2026, 11, 23), 40, エラー), 40)
+        << エラー.toStdString();
+    EXPECT_EQ(数(u"SELECT COUNT(*) FROM T出金"_qs), 40);
+    // Every office types: head office half, each branch a quarter.
+    EXPECT_EQ(数(u"SELECT COUNT(*) FROM T出金 WHERE 事業所コード = '000'"_qs), 20);
+    EXPECT_EQ(数(u"SELECT COUNT(*) FROM T出金 WHERE 事業所コード = '001'"_qs), 10);
+    // The previous fiscal year's first day to today, in both number periods.
+    EXPECT_EQ(
+        数(u"SELECT COUNT(*) FROM T出金 WHERE 出金日付 < '20250401' OR 出金日付 > '20261123'"_qs),
+        0);
+    EXPECT_GT(数(u"SELECT COUNT(*) FROM T出金 WHERE 番号基準日付 = '20260331'"_qs), 0);
+    EXPECT_GT(数(u"SELECT COUNT(*) FROM T出金 WHERE 番号基準日付 = '20270331'"_qs), 0);
+    // No number twice in a period, and numbers follow the dates.
+    EXPECT_EQ(
+        数(u"SELECT COUNT(*) FROM (SELECT 番号基準日付, 出金No FROM T出金 GROUP BY 番号基準日付, 出金No HAVING COUNT(*) > 1) AS x"_qs),
+        0);
+    EXPECT_EQ(
+        数(u"SELECT COUNT(*) FROM T出金 a, T出金 b WHERE a.番号基準日付 = b.番号基準日付 AND a.出金No < b.出金No AND a.出金日付 > b.出金日付"_qs),
+        0);
+    // Each header's total is the sum of its lines; one slip of fifteen lines.
+    EXPECT_EQ(
+        数(u"SELECT COUNT(*) FROM T出金 h WHERE h.出金金額合計 <> (SELECT SUM(l.出金金額) FROM T出金明細 l WHERE l.事業所コード = h.事業所コード AND l.番号基準日付 = h.番号基準日付 AND l.出金No = h.出金No)"_qs),
+        0);
+    EXPECT_EQ(
+        数(u"SELECT MAX(c) FROM (SELECT COUNT(*) AS c FROM T出金明細 GROUP BY 事業所コード, 番号基準日付, 出金No) AS x"_qs),
+        15);
+    // Both rates, the reduced one on food and drink.
+    EXPECT_GT(数(u"SELECT COUNT(*) FROM T出金明細 WHERE 消費税率 = 8"_qs), 0);
+    EXPECT_GT(数(u"SELECT COUNT(*) FROM T出金明細 WHERE 消費税率 = 10"_qs), 0);
+    // Corrections: the old state in the history, and two queue rows each besides one per store.
+    const int 訂正 = 数(u"SELECT COUNT(*) FROM R出金"_qs);
+    EXPECT_EQ(訂正, 5);
+    EXPECT_EQ(数(u"SELECT COUNT(*) FROM 未集計情報"_qs), 40 + 2 * 訂正);
+    EXPECT_EQ(数(u"SELECT COUNT(*) FROM 未集計情報 WHERE 赤黒区分 = '0'"_qs), 訂正);
+    // The workplace is back on head office.
+    EXPECT_EQ(木.環境DB行(u"SELECT 運用事業所コード FROM 動作環境定義"_qs)[0][0].toString(),
+              u"000"_qs);
+}
+
+}  // namespace
