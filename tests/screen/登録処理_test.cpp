@@ -169,4 +169,28 @@ TEST_F(登録処理, 連携で起こした伝票は保存の後に鍵を残し�
     EXPECT_EQ(終わり, 1);
 }
 
+// A company with PINs, whose operator may store slips but not print them.
+class 印刷権限のない登録処理 : public 登録処理 {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(木.業務DB実行(u"UPDATE Mユーザ SET 暗証番号有無 = 1"_qs));
+        ASSERT_TRUE(木.業務DB実行(
+            u"UPDATE 担当者別操作許可プログラム SET 印刷許可 = '1' WHERE 担当者コード = '00001' AND プログラムID = '紺碧帳書'"_qs));
+        登録処理::SetUp();
+    }
+};
+
+TEST_F(印刷権限のない登録処理, 登録と印刷は保存し印刷せず何も言わない) {
+    答える(u"btn_登録印刷"_qs);
+    f->印刷 = [this](const QString& 鍵) { 印刷 << 鍵; };
+    打って備考Bを抜ける();
+    EXPECT_EQ(伝票数(), 1);
+    EXPECT_TRUE(印刷.isEmpty());
+    EXPECT_TRUE(基盤.表示文言().isEmpty());
+    // The print right was asked for by the PIN window, which was closed unanswered.
+    EXPECT_TRUE(基盤.表示画面.contains({u"msg暗証番号確認"_qs, true}));
+    EXPECT_TRUE(s.新規情報フラグ);
+    EXPECT_EQ(焦点(), u"担当者コード"_qs);
+}
+
 }  // namespace
