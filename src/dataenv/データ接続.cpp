@@ -68,6 +68,7 @@ bool データ接続::開く(const 接続先& 先) {
         // database fails here, and let readers and one writer work side by side.
         QSqlQuery q(db);
         if (!q.exec(u"PRAGMA journal_mode=WAL"_qs) ||
+            (先.同期は区切りごと && !q.exec(u"PRAGMA synchronous=NORMAL"_qs)) ||
             !q.exec(u"SELECT count(*) FROM sqlite_master"_qs)) {
             エラー記録(q.lastError());
             q = QSqlQuery();

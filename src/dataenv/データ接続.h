@@ -17,6 +17,9 @@ struct 接続先 {
     QString ユーザー;        // PostgreSQL, ODBC
     QString パスワード;      // PostgreSQL, ODBC
     QString ODBC接続文字列;  // ODBC
+    // SQLite: a commit waits for the disk only at checkpoints. The file stays whole after any
+    // crash; only the last commits can be lost when the machine itself goes down.
+    bool 同期は区切りごと = false;
 };
 
 // An error as the original's error object carried it: a number and a description.

@@ -52,9 +52,17 @@ void データ環境::木を探す() {
     e.帳票DB種別 = ファイル種別(e.共通帳票フォルダ, u"/repdb"_qs, e.帳票DBパス);
 }
 
-bool データ環境::環境DBを開く(const QString& フォルダ) {
+// The configuration database takes a history row for every store and every logged
+// statement; waiting for the disk at each of them would double the time of a store.
+接続先 データ環境::環境DB接続先(const QString& フォルダ) const {
     接続先 先;
     先.ファイル = フォルダ + 環境DBファイル名(環境.環境DB種別);
+    先.同期は区切りごと = true;
+    return 先;
+}
+
+bool データ環境::環境DBを開く(const QString& フォルダ) {
+    const 接続先 先 = 環境DB接続先(フォルダ);
     if (!環境接続.開く(先)) throw 中断{環境接続.最終エラー()};
     環境DB接続中 = true;
     return true;
@@ -236,9 +244,7 @@ bool データ環境::DB_CLOSEOPEN() {
         環境DB接続中 = false;
     }
     if (!環境DB接続中) {
-        接続先 先;
-        先.ファイル = 環境.環境フォルダ + 環境DBファイル名(環境.環境DB種別);
-        環境DB接続中 = 環境接続.開く(先);
+        環境DB接続中 = 環境接続.開く(環境DB接続先(環境.環境フォルダ));
     }
     return 環境DB接続中;
 }

@@ -92,6 +92,7 @@ class データ環境 {
     void 利用者別環境準備();
     void 帳票DB準備(const QString& 帳票名, const QString& 帳票書式名, bool 追加複写);
     bool 環境DBを開く(const QString& フォルダ);
+    接続先 環境DB接続先(const QString& フォルダ) const;
     void 履歴書込(const QString& 摘要);
 
     平文暗証解読 平文解読;

@@ -1,0 +1,51 @@
+#include <QElapsedTimer>
+
+#include "common/出金入力.h"
+#include "slip/起動処理.h"
+#include "text/台本プラットフォーム.h"
+#include "計測.h"
+
+namespace {
+
+struct 見えない画面 : 入力画面 {
+    void 表示() override {}
+    void 既定フォーカス設定() override {}
+};
+
+}  // namespace
+
+// The store of a new 15-line slip and of its correction within the sequence, on SQLite; the
+// typing and the load before each are not timed.
+void 登録計測() {
+    計測用ツリー 木;
+    if (!木.作成済み) return;
+    台本プラットフォーム 基盤;
+    出金セッション s(基盤);
+    見えない画面 画面;
+    紺碧帳起動 起動(s, 画面);
+    s.データ.自身のフォルダ = 木.根() + u"/prgbin"_qs;
+    if (!起動.データベース開始() || !起動.ユーザ情報初期化()) return;
+    std::vector<double> 新規, 修正;
+    for (int i = 0; i < 200; ++i) {
+        s.出金情報初期化();
+        担当者入力(s, u"00003"_qs);
+        for (int 行 = 1; 行 <= 最大行数; ++行) {
+            明細入力(s, 3, 金額::円(100 * 行), u"支払先"_qs, u"摘要"_qs);
+        }
+        QElapsedTimer t;
+        t.start();
+        s.新規登録処理();
+        新規.push_back(t.nsecsElapsed() / 1e6);
+
+        const QString No = s.見出し.出金No;
+        s.出金情報初期化();
+        s.出金No確定(No);
+        if (s.最終行 != 最大行数 - 1) std::printf("the stored slip did not load\n");
+        t.start();
+        s.修正登録処理();
+        修正.push_back(t.nsecsElapsed() / 1e6);
+    }
+    結果表示("store of a new 15-line slip (SQLite)", 新規, "ms");
+    結果表示("store of its correction (SQLite)", 修正, "ms");
+    起動.終了処理();
+}
