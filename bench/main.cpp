@@ -12,9 +12,10 @@ void 結果表示(const char* 名前, std::vector<double> 標本, const char* �
     std::fflush(stdout);
 }
 
-計測用ツリー::計測用ツリー() {
+計測用ツリー::計測用ツリー(const QString& PostgreSQL接続情報) {
     ツリー作成指定 指定;
     指定.根 = 一時.path();
+    指定.PostgreSQL接続情報 = PostgreSQL接続情報;
     指定.スキーマフォルダ = QStringLiteral(KONPEKI_SCHEMA_DIR);
     指定.複写プログラム = {QStringLiteral(KONPEKI_PROGRAM)};
     QString エラー;

@@ -1,6 +1,7 @@
 #include <QElapsedTimer>
 
 #include "common/出金入力.h"
+#include "common/試験用ツリー.h"
 #include "slip/起動処理.h"
 #include "text/台本プラットフォーム.h"
 #include "計測.h"
@@ -12,12 +13,10 @@ struct 見えない画面 : 入力画面 {
     void 既定フォーカス設定() override {}
 };
 
-}  // namespace
-
-// The store of a new 15-line slip and of its correction within the sequence, on SQLite; the
-// typing and the load before each are not timed.
-void 登録計測() {
-    計測用ツリー 木;
+// The store of a new 15-line slip and of its correction within the sequence; the typing and the
+// load before each are not timed.
+void 登録計測(const QString& PostgreSQL接続情報, const char* 新規名, const char* 修正名) {
+    計測用ツリー 木(PostgreSQL接続情報);
     if (!木.作成済み) return;
     台本プラットフォーム 基盤;
     出金セッション s(基盤);
@@ -45,7 +44,19 @@ void 登録計測() {
         s.修正登録処理();
         修正.push_back(t.nsecsElapsed() / 1e6);
     }
-    結果表示("store of a new 15-line slip (SQLite)", 新規, "ms");
-    結果表示("store of its correction (SQLite)", 修正, "ms");
+    結果表示(新規名, 新規, "ms");
+    結果表示(修正名, 修正, "ms");
     起動.終了処理();
+}
+
+}  // namespace
+
+// On SQLite, and on the PostgreSQL server of KONPEKI_TEST_PG when one is given (run it with the
+// server's durable defaults: scripts/pg-server start DIR PORT durable).
+void 登録計測() {
+    登録計測(QString(), "store of a new 15-line slip (SQLite)", "store of its correction (SQLite)");
+    if (!試験用PostgreSQL::利用可能()) return;
+    試験用PostgreSQL 庫;
+    登録計測(庫.接続情報(), "store of a new 15-line slip (PostgreSQL)",
+             "store of its correction (PostgreSQL)");
 }

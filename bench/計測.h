@@ -8,11 +8,12 @@
 // Prints one figure as "name: median (min .. max) unit" over the given samples.
 void 結果表示(const char* 名前, std::vector<double> 標本, const char* 単位);
 
-// A sample tree in a temporary folder with the built program in prgbin.
+// A sample tree in a temporary folder with the built program in prgbin; with a connection
+// string, its general database is that PostgreSQL database.
 struct 計測用ツリー {
     QTemporaryDir 一時;
     bool 作成済み = false;
-    計測用ツリー();
+    explicit 計測用ツリー(const QString& PostgreSQL接続情報 = {});
     QString 根() const { return 一時.path(); }
 };
 
