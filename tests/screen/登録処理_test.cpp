@@ -169,6 +169,19 @@ TEST_F(登録処理, 連携で起こした伝票は保存の後に鍵を残し�
     EXPECT_EQ(終わり, 1);
 }
 
+TEST_F(登録処理, 打った後に他の利用者が消した担当者でも伝票はそのまま保存される) {
+    答える(u"btn_登録"_qs);
+    行を打つ(1);
+    ASSERT_TRUE(木.業務DB実行(u"DELETE FROM M担当者 WHERE コード = '00003'"_qs));
+    f->画面.操作_クリック(c(u"btn_登録"_qs));
+    const auto 行 = 木.業務DB行(u"SELECT 担当者コード, 出金金額合計 FROM T出金"_qs);
+    ASSERT_EQ(行.size(), 1);
+    EXPECT_EQ(行[0][0].toString(), u"00003"_qs);
+    EXPECT_EQ(行[0][1].toLongLong(), 1000);
+    EXPECT_TRUE(基盤.表示文言().isEmpty());
+    EXPECT_EQ(焦点(), u"担当者コード"_qs);
+}
+
 // A company with PINs, whose operator may store slips but not print them.
 class 印刷権限のない登録処理 : public 登録処理 {
   protected:

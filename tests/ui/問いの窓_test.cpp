@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -58,6 +59,8 @@ TEST_F(問いの窓, 修正の問いは赤い文で登録のみに焦点があ�
         色 = l->palette().color(QPalette::WindowText);
         焦点 = 窓->focusWidget() == 部品の<QPushButton>(窓, u"btn_登録"_qs);
         EXPECT_EQ(窓->windowTitle(), u"紺碧帳"_qs);
+        QDir().mkpath(QStringLiteral(KONPEKI_ARTIFACTS));
+        窓->grab().save(QStringLiteral(KONPEKI_ARTIFACTS) + u"/修正の問い.png"_qs);
         EXPECT_EQ(部品の<QPushButton>(窓, u"btn_登録印刷"_qs)->text(), u"登録と印刷"_qs);
         QTest::mouseClick(部品の<QPushButton>(窓, u"btn_登録印刷"_qs), Qt::LeftButton);
     });
