@@ -97,3 +97,9 @@ INSERT INTO G消費税 (施行日, 税率区分, 消費税率) VALUES ('20191001
 INSERT INTO A番号情報 (番号ID, 名称, 連番種類, 連番, 履歴連番, 更新プログラム) VALUES ('16810', '出金伝票', '1', '00000000', '00000000', '');
 INSERT INTO A番号情報 (番号ID, 名称, 連番種類, 連番, 履歴連番, 更新プログラム) VALUES ('01110', '閲覧記録', '0', '00000000', '00000000', '');
 INSERT INTO A番号情報 (番号ID, 名称, 連番種類, 連番, 履歴連番, 更新プログラム) VALUES ('72150', '出張申請', '1', '00000000', '00000000', '');
+
+-- A few days of the staff's schedule, kept by the sales activity program. None points at a
+-- slip yet: a row never linked holds NULL there, one whose slip was deleted holds empty text.
+INSERT INTO T営業活動明細 (担当者コード, 日付, 開始時刻, 終了時刻, 件名, 内容, 出金事業所コード, 出金番号基準日付, 出金No, ユーザID, 登録日付, 更新日付) VALUES ('00003', '20251117', '0930', '1130', '株式会社青葉建設', '定例打合せ', NULL, NULL, NULL, 'ueda', '20251114 170000', '');
+INSERT INTO T営業活動明細 (担当者コード, 日付, 開始時刻, 終了時刻, 件名, 内容, 出金事業所コード, 出金番号基準日付, 出金No, ユーザID, 登録日付, 更新日付) VALUES ('00003', '20251118', '1400', '1630', '横浜倉庫', '在庫確認', NULL, NULL, NULL, 'ueda', '20251114 170500', '');
+INSERT INTO T営業活動明細 (担当者コード, 日付, 開始時刻, 終了時刻, 件名, 内容, 出金事業所コード, 出金番号基準日付, 出金No, ユーザID, 登録日付, 更新日付) VALUES ('00005', '20251119', '1000', '1200', '大阪支店', '販促会議', NULL, NULL, NULL, 'ono', '20251117 090000', '');
