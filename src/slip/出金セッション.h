@@ -3,7 +3,6 @@
 #include <QString>
 #include <QStringList>
 #include <array>
-#include <functional>
 
 #include "dataenv/データ環境.h"
 #include "rules/消費税計算.h"
@@ -182,16 +181,25 @@ class 出金セッション {
     void 後処理();
 
     // The outcome of the last statement of a store: each statement overwrites both.
-    // 1 inserted, 3 insert failed or number taken, 6 delete failed or nothing to delete,
-    // 7 deleted.
+    // 1 inserted, 3 insert failed or number taken, 4 schedule update failed, 5 schedule
+    // updated, 6 delete failed or nothing to delete, 7 deleted.
     short 処理結果区分 = 0;
     QString 処理結果メッセージ;
 
-    // Whether a schedule activity refers to the stored slip; asked before its number moves.
-    std::function<bool()> 日程連携確認 = [] { return false; };
-    // Moves the schedule activities of the kept key to the slip's new key, after a correction
-    // that took the slip into another number sequence.
-    std::function<void()> 日程連携書換 = [] {};
+    // Deleting the stored slip: its rows moved to the history as the old state and removed,
+    // the queue told, and the schedule's link to it emptied.
+    void 削除処理();
+    // The question before a deletion, with a warning when a schedule row points at the slip.
+    QString 削除確認文言();
+
+    // The schedule activities of the sibling program that point at the stored slip (its kept
+    // key). True when none does. A failed read counts as none.
+    bool 日程連携確認();
+    // Moves those links to the slip's new key, after a correction that took the slip into
+    // another number sequence.
+    void 日程連携書換();
+    // Empties those links, after a deletion.
+    void 日程連携解除();
 
   private:
     QString 隣接文(bool 前) const;
@@ -199,6 +207,7 @@ class 出金セッション {
     void 挿入結果(bool 成功);
     void 削除結果(bool 成功);
     bool 隣接読込(bool 前);
+    void 日程連携更新(const QString& 設定);
 
     記録集合 見出し結果;  // open between 出金キー検索 and 出金見出し読込
     記録集合 担当者結果;  // open between 担当者検索 and 担当者取込

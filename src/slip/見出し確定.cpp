@@ -18,8 +18,8 @@ void 出金セッション::出金日付確定() {
 
     const QString 番号ID = 番号定数::出金番号ID.toString();
     const QString B = 番号基準日付取得(データ, 番号ID, h.出金日付);
-    const auto 処置 =
-        日付変更時番号判定(新規情報フラグ, B, h.番号基準日付, h.保持番号基準日付, 日程連携確認);
+    const auto 処置 = 日付変更時番号判定(新規情報フラグ, B, h.番号基準日付, h.保持番号基準日付,
+                                         [this] { return !日程連携確認(); });
     switch (処置) {
         case 日付変更番号処置::そのまま:
             break;

@@ -134,8 +134,8 @@ TEST_P(出金登録, 系列内の修正は同じキーで今の登録日付と�
     出金金額変更時再計算(s.行[0], 金額::円(1500));
     s.合計再計算();
     基盤.時刻 = QDateTime(QDate(2025, 11, 21), QTime(9, 30, 0));
-    int 書換 = 0;
-    s.日程連携書換 = [&] { ++書換; };
+    // A schedule row points at the slip: the key stays, so its link is not touched.
+    日程を書く(u"20251120"_qs, u"0900"_qs, u"1000"_qs, u"20260331"_qs, u"00000001"_qs);
     s.修正登録処理();
 
     const QString u = 利用者();
@@ -181,7 +181,6 @@ TEST_P(出金登録, 系列内の修正は同じキーで今の登録日付と�
     EXPECT_EQ(s.見出し.旧出金履歴No, u"00000002"_qs);
     EXPECT_EQ(s.見出し.出金履歴No, u"00000003"_qs);
     EXPECT_EQ(s.処理結果区分, 1);
-    EXPECT_EQ(書換, 0);
 }
 
 // A date across the fiscal year end moves the slip to the next year's sequence: it takes a
@@ -195,14 +194,14 @@ TEST_P(出金登録, 年度を越えた修正は新しい系列で番号を取�
     ASSERT_TRUE(読込(u"00000001"_qs));
     出金日付入力(s, u"20260401"_qs);
     ASSERT_EQ(s.見出し.番号基準日付, u"20270331"_qs);
-    QStringList 書換時の見出し;
-    s.日程連携書換 = [&] { 書換時の見出し = 表の行(u"SELECT 番号基準日付, 出金No FROM T出金"_qs); };
+    // The schedule linked the slip after it was loaded; the link follows the slip's new key.
+    日程を書く(u"20260331"_qs, u"1300"_qs, u"1500"_qs, u"20260331"_qs, u"00000001"_qs);
     s.修正登録処理();
 
     const QString u = 利用者();
     EXPECT_EQ(表の行(u"SELECT 番号基準日付, 出金No, 出金日付, 登録日付 FROM T出金"_qs),
               QStringList{u"20270331|00000001|20260401|20251120 100000"_qs});
-    EXPECT_EQ(書換時の見出し, QStringList{u"20270331|00000001"_qs});
+    EXPECT_EQ(日程行(), QStringList{u"00003|20260331|1300|000|20270331|00000001"_qs});
     EXPECT_EQ(
         表の行(
             u"SELECT 番号基準日付, 出金No, 出金固有行No, 出金行No, 出金日付, 会計集計日付 FROM T出金明細 ORDER BY 出金行No"_qs),
@@ -224,18 +223,24 @@ TEST_P(出金登録, 年度を越えた修正は新しい系列で番号を取�
                                        u"000|16810|20270331|00000001|1|00000001||0|1|"_qs + u}));
     EXPECT_EQ(番号情報(u"20260331"_qs), u"00000001|00000001"_qs);
     EXPECT_EQ(番号情報(u"20270331"_qs), u"00000001|00000002"_qs);
-    EXPECT_EQ(s.処理結果区分, 1);
+    EXPECT_EQ(s.処理結果区分, 5);
+    EXPECT_EQ(s.処理結果メッセージ, QString());
 }
 
+// A new slip has an empty kept key, which a schedule row of a deleted slip also holds; a
+// correction in its sequence keeps its key. Neither moves a link: no update runs.
 TEST_P(出金登録, 系列内の修正と新規は日程連携を書き換えない) {
-    int 書換 = 0;
-    s.日程連携書換 = [&] { ++書換; };
+    日程を書く(u"20251119"_qs, u"0900"_qs, u"1000"_qs, {}, {});
     二行の伝票を打つ();
     ASSERT_TRUE(s.新規登録処理());
+    EXPECT_EQ(s.処理結果区分, 1);
+    日程を書く(u"20251120"_qs, u"0900"_qs, u"1000"_qs, u"20260331"_qs, u"00000001"_qs);
     s.出金情報初期化();
     ASSERT_TRUE(読込(u"00000001"_qs));
     s.修正登録処理();
-    EXPECT_EQ(書換, 0);
+    EXPECT_EQ(s.処理結果区分, 1);
+    EXPECT_EQ(日程行(), (QStringList{u"00003|20251119|0900|||"_qs,
+                                     u"00003|20251120|0900|000|20260331|00000001"_qs}));
 }
 
 // The quote is doubled on the way into the new state; the old-state line writer puts the stored

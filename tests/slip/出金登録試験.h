@@ -60,6 +60,26 @@ class 出金登録試験 : public 出金試験 {
             期日 + u"'"_qs);
         return r.value(0);
     }
+    // A schedule row as the sales activity program writes it, pointing at a slip of office 000
+    // by base date and number, or at none when both are empty.
+    void 日程を書く(const QString& 日付, const QString& 開始時刻, const QString& 終了時刻,
+                    const QString& 基準日付, const QString& No) {
+        auto 値 = [](QString v) { return u"'"_qs + v.replace(u"'"_qs, u"''"_qs) + u"'"_qs; };
+        const QString 事業所 = No.isEmpty() ? QString() : u"000"_qs;
+        ASSERT_TRUE(木->業務DB実行(
+            u"INSERT INTO T営業活動明細 (担当者コード, 日付, 開始時刻, 終了時刻, 件名, 内容, 出金事業所コード, 出金番号基準日付, 出金No, ユーザID, 登録日付, 更新日付) VALUES ('00003', "_qs +
+            値(日付) + u", "_qs + 値(開始時刻) + u", "_qs + 値(終了時刻) +
+            u", '訪問', '打合せ', "_qs + 値(事業所) + u", "_qs + 値(基準日付) + u", "_qs + 値(No) +
+            u", 'sales', '20251119 090000', '')"_qs));
+    }
+    // The schedule rows written above, or with 見本も those of the sample company too, with
+    // their links; a link never set reads "-".
+    QStringList 日程行(bool 見本も = false) {
+        return 表の行(
+            u"SELECT 担当者コード, 日付, 開始時刻, COALESCE(出金事業所コード, '-'), COALESCE(出金番号基準日付, '-'), COALESCE(出金No, '-') FROM T営業活動明細"_qs +
+            (見本も ? QString() : u" WHERE ユーザID = 'sales'"_qs) +
+            u" ORDER BY 担当者コード, 日付, 開始時刻"_qs);
+    }
     QStringList 見出し行() {
         return 表の行(u"SELECT * FROM T出金 ORDER BY 番号基準日付, 出金No"_qs);
     }
