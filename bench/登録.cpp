@@ -8,11 +8,6 @@
 
 namespace {
 
-struct 見えない画面 : 入力画面 {
-    void 表示() override {}
-    void 既定フォーカス設定() override {}
-};
-
 // The store of a new 15-line slip and of its correction within the sequence; the typing and the
 // load before each are not timed.
 void 登録計測(const QString& PostgreSQL接続情報, const char* 新規名, const char* 修正名) {
@@ -20,7 +15,7 @@ void 登録計測(const QString& PostgreSQL接続情報, const char* 新規名, 
     if (!木.作成済み) return;
     台本プラットフォーム 基盤;
     出金セッション s(基盤);
-    見えない画面 画面;
+    画面なし 画面;
     紺碧帳起動 起動(s, 画面);
     s.データ.自身のフォルダ = 木.根() + u"/prgbin"_qs;
     if (!起動.データベース開始() || !起動.ユーザ情報初期化()) return;

@@ -3,6 +3,8 @@
 #include <QFont>
 #include <QTextStream>
 #include <QTimer>
+#include <cstdio>
+#include <cstdlib>
 
 #include "dataenv/ファイル操作.h"
 #include "screen/frm紺碧帳.h"
@@ -30,10 +32,12 @@ int main(int argc, char** argv) {
     // Every run, linked or by hand, takes its mark here and holds it to the end.
     二重起動検査 検査(QDir::tempPath(), QCoreApplication::applicationDirPath(), 端末利用者名取得());
     起動.他に起動中 = [&] { return 検査.他に起動中(); };
-    画面.閉じる時 = [&] { 起動.停止処理(); };
     画面.伝票読込 = [&] { 起動.伝票読込(); };
-    モデル.終了要求 = [&] {
-        if (画面.窓()) 画面.窓()->close();
+    // Once the quit is decided the process ends at once: no further event runs.
+    モデル.停止 = [&] {
+        起動.停止処理();
+        std::fflush(stdout);
+        std::exit(0);
     };
     // Siblings pass the fixed-position text as one argument, whose inner blanks are positions.
     const QString コマンドライン = QCoreApplication::arguments().mid(1).join(u' ');

@@ -121,6 +121,18 @@ void frm紺碧帳::事象を結ぶ() {
     画面(u"btn_登録"_qs).Click = [this] {
         if (!s.画面表示中フラグ) 登録処理();
     };
+    画面(u"btn_削除"_qs).Click = [this] { 削除(); };
+    画面(u"btn_画面クリア"_qs).Click = [this] { 画面クリア(); };
+    画面(u"btn_前No"_qs).Click = [this] { 隣へ(true); };
+    画面(u"btn_次No"_qs).Click = [this] { 隣へ(false); };
+    画面(u"btn_印刷"_qs).Click = [this] { 帳票(u"0"_qs); };
+    画面(u"btn_プレビュ"_qs).Click = [this] { 帳票(u"1"_qs); };
+    画面(u"btn_帳票イメージ出力"_qs).Click = [this] { 帳票(u"3"_qs); };
+    // The quit takes no busy test: it is always there.
+    画面(u"btn_終了"_qs).Click = [this] {
+        bool 取消 = false;
+        終了確認(取消);
+    };
     画面(u"btn_行クリア"_qs).Click = [this] {
         if (!s.画面表示中フラグ && !画面使用中) 行クリア();
     };
@@ -200,6 +212,9 @@ void frm紺碧帳::画面全表示() {
     見出し表示();
     明細表示();
     合計表示();
+    s.画面表示中フラグ = true;
+    付属書類listint();
+    s.画面表示中フラグ = false;
 }
 
 void frm紺碧帳::見出し表示() {

@@ -27,14 +27,25 @@ class frm紺碧帳 {
     // The dialogues of the register flow.
     msg印刷確認 印刷確認{s};
     msgお待ち お待ち;
-    // The print of a stored slip, by its 19-character key; the report program is not started
-    // by this build yet, so the request goes here.
-    std::function<void(const QString& 伝票鍵)> 印刷;
-    // The end of the program, as the quit button ends it; a linked run ends after a store.
-    std::function<void()> 終了要求;
+    // A report of a stored slip by its 19-character key: "0" print, "1" preview, "3" PDF. The
+    // report program is not started by this build yet, so the request goes here.
+    std::function<void(const QString& 出力区分, const QString& 伝票鍵)> 帳票要求;
+    // The stop sequence and the end of the process, once the quit is decided.
+    std::function<void()> 停止;
 
     // The register flow: right and period, the question, the store, the new slip.
     void 登録処理();
+    // The commands of the command band and the header.
+    void 削除();
+    void 画面クリア();
+    void 隣へ(bool 前);
+    void 帳票(const QString& 出力区分);
+    // The quit: a stored slip with a gap may not be left; pending changes are asked about.
+    // 取消 comes back true when the screen stays.
+    void 終了確認(bool& 取消);
+    // The attachment list of the slip and the enabling of its three buttons.
+    void 付属書類listint();
+    void 付属書類ボタン更新();
 
     // The screen's load step: lay out, fill the lists, title the window, load or clear the slip,
     // display.

@@ -37,15 +37,18 @@ void frm紺碧帳::登録処理() {
         s.修正登録処理();
     }
     // The slip is printed from memory, before the clear; a refused right passes in silence.
-    if (s.登録確認結果 == 0 && 操作権限OK(d.操作権限確認(u"翠嶺"_qs, u"紺碧帳書"_qs, 4)) && 印刷) {
-        印刷(s.見出し.事業所コード + s.見出し.番号基準日付 + s.見出し.出金No);
+    if (s.登録確認結果 == 0 && 操作権限OK(d.操作権限確認(u"翠嶺"_qs, u"紺碧帳書"_qs, 4)) &&
+        帳票要求) {
+        帳票要求(u"0"_qs, s.見出し.事業所コード + s.見出し.番号基準日付 + s.見出し.出金No);
     }
     s.出金情報初期化();
     画面全表示();
     詳細初期化();
     基盤.お待ち表示(false);
     if (s.連携起動フラグ) {
-        if (終了要求) 終了要求();
+        // The slip is clear now, so the quit asks nothing and ends the run.
+        bool 取消 = false;
+        終了確認(取消);
         return;
     }
     if (s.先頭入力項目) 画面.SetFocus(*s.先頭入力項目);

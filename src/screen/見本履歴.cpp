@@ -10,12 +10,6 @@
 
 namespace {
 
-// No window: the screen model alone is typed into.
-struct 窓なし : 入力画面 {
-    void 表示() override {}
-    void 既定フォーカス設定() override {}
-};
-
 struct 行の型 {
     const char16_t* 費目;
     const char16_t* 支払先;
@@ -130,7 +124,7 @@ class 事務所の一日 {
 
     台本プラットフォーム 基盤;
     出金セッション s{基盤};
-    窓なし 窓;
+    画面なし 窓;
     紺碧帳起動 起動{s, 窓};
     frm紺碧帳 f{s};
 };

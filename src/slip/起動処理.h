@@ -16,6 +16,12 @@ class 入力画面 {
     virtual void 既定フォーカス設定() = 0;
 };
 
+// No screen at all: the start and its routines run headless (tools, benchmarks, tests).
+struct 画面なし : 入力画面 {
+    void 表示() override {}
+    void 既定フォーカス設定() override {}
+};
+
 enum class 起動結果 { 稼動, 停止 };
 
 // The program's spine from process start to the first keystroke, and from the last command to

@@ -35,6 +35,8 @@ class プラットフォーム {
     virtual 応答 メッセージ表示(const メッセージ指定& 指定) = 0;
     virtual QDateTime 現在時刻() const = 0;
     virtual void 保留イベント処理() = 0;
+    // Holds the program for so many milliseconds.
+    virtual void 待機(int ミリ秒) = 0;
     // Another window of the program by its name (a list window, a dialogue), modal or not, and
     // the enabling of a window as a whole. Showing runs the window's load event first; a modal
     // show returns once the window has closed itself (画面終了) or was closed by its frame.

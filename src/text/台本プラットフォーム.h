@@ -32,6 +32,12 @@ class 台本プラットフォーム : public プラットフォーム {
     応答 メッセージ表示(const メッセージ指定& 指定) override;
     QDateTime 現在時刻() const override { return 時刻; }
     void 保留イベント処理() override { ++イベント処理回数; }
+    // The clock moves on by the wait; nothing sleeps.
+    void 待機(int ミリ秒) override {
+        待機合計 += ミリ秒;
+        時刻 = 時刻.addMSecs(ミリ秒);
+    }
+    int 待機合計 = 0;
     void お待ち表示(bool 表示) override { お待ち履歴.append(表示); }
     // A show runs the window's load, then the test's operator; a modal window still up after
     // that is closed as its frame would close it.

@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
+#include <QThread>
 #include <QUrl>
 
 #include "ui/画面ウィンドウ.h"
@@ -79,6 +80,10 @@ QMessageBox::Icon Qtのアイコン(アイコン種別 a) {
 
 void Qtプラットフォーム::保留イベント処理() {
     QApplication::processEvents();
+}
+
+void Qtプラットフォーム::待機(int ミリ秒) {
+    QThread::msleep(static_cast<unsigned long>(ミリ秒));
 }
 
 void Qtプラットフォーム::お待ち表示(bool 表示) {

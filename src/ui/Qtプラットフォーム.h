@@ -15,6 +15,7 @@ class Qtプラットフォーム : public プラットフォーム {
     応答 メッセージ表示(const メッセージ指定& 指定) override;
     QDateTime 現在時刻() const override { return QDateTime::currentDateTime(); }
     void 保留イベント処理() override;
+    void 待機(int ミリ秒) override;
     void お待ち表示(bool 表示) override;
     void 画面表示(const QString& 画面名, bool モーダル) override;
     void 画面使用可否(const QString& 画面名, bool 可) override;

@@ -3,8 +3,11 @@
 void 入力画面ウィンドウ::表示() {
     画面.画面読込(伝票読込);
     ウィンドウ = std::make_unique<ScreenWindow>(画面.画面);
-    ウィンドウ->閉じる時 = [this] {
-        if (閉じる時) 閉じる時();
+    // The frame's close is the quit of the screen, with its questions; a cancel keeps it up.
+    ウィンドウ->閉じてよいか = [this] {
+        bool 取消 = false;
+        画面.終了確認(取消);
+        return !取消;
     };
     ウィンドウ->show();
 }

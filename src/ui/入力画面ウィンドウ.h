@@ -15,7 +15,6 @@ class 入力画面ウィンドウ : public 入力画面 {
     void 既定フォーカス設定() override;
 
     std::function<void()> 伝票読込;  // the slip part of the load step
-    std::function<void()> 閉じる時;  // the quit by the window frame
     ScreenWindow* 窓() const { return ウィンドウ.get(); }
 
   private:

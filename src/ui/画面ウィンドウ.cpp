@@ -245,6 +245,11 @@ bool ScreenWindow::押下(部品& p, QWidget* w) {
 }
 
 void ScreenWindow::closeEvent(QCloseEvent* e) {
+    if (閉じてよいか && !閉じてよいか()) {
+        e->ignore();
+        反映();
+        return;
+    }
     if (閉じる時) 閉じる時();
     e->accept();
 }

@@ -18,6 +18,8 @@ class ScreenWindow : public QWidget {
     QWidget* ウィジェット(const 部品& p) const { return 対応.value(&p); }
     部品* 部品へ(QWidget* w) const;
 
+    // Asked before the frame closes the window; false keeps it open.
+    std::function<bool()> 閉じてよいか;
     std::function<void()> 閉じる時;
 
   protected:

@@ -12,10 +12,7 @@
 // that his record is read), and an empty slip of the workplace's office for the scripted
 // clock's day.
 inline void 出金セッション準備(出金セッション& s, 試験用ツリー& 木) {
-    struct 見えない画面 : 入力画面 {
-        void 表示() override {}
-        void 既定フォーカス設定() override {}
-    } 画面;
+    画面なし 画面;
     紺碧帳起動 起動(s, 画面);
     s.データ.自身のフォルダ = 木.プログラムフォルダ();
     ASSERT_TRUE(起動.データベース開始());

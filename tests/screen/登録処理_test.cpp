@@ -85,15 +85,15 @@ TEST_F(登録処理, 枠で閉じた問いはいいえと同じ) {
 
 TEST_F(登録処理, 登録と印刷は権限があれば消す前の伝票を印刷に回す) {
     答える(u"btn_登録印刷"_qs);
-    f->印刷 = [this](const QString& 鍵) { 印刷 << 鍵; };
+    f->帳票要求 = [this](const QString& 区分, const QString& 鍵) { 印刷 << 区分 + 鍵; };
     打って備考Bを抜ける();
     EXPECT_EQ(伝票数(), 1);
-    EXPECT_EQ(印刷, QStringList{u"0002026033100000001"_qs});
+    EXPECT_EQ(印刷, QStringList{u"00002026033100000001"_qs});
 }
 
 TEST_F(登録処理, 登録のみは印刷しない) {
     答える(u"btn_登録"_qs);
-    f->印刷 = [this](const QString& 鍵) { 印刷 << 鍵; };
+    f->帳票要求 = [this](const QString& 区分, const QString& 鍵) { 印刷 << 区分 + 鍵; };
     打って備考Bを抜ける();
     EXPECT_TRUE(印刷.isEmpty());
 }
@@ -161,7 +161,7 @@ TEST_F(登録処理, 修正期間の外でもアクセス権限6の操作者は�
 TEST_F(登録処理, 連携で起こした伝票は保存の後に鍵を残して終わりを求める) {
     答える(u"btn_登録"_qs);
     int 終わり = 0;
-    f->終了要求 = [&] { ++終わり; };
+    f->停止 = [&] { ++終わり; };
     s.連携起動フラグ = true;
     打って備考Bを抜ける();
     EXPECT_EQ(伝票数(), 1);
@@ -195,7 +195,7 @@ class 印刷権限のない登録処理 : public 登録処理 {
 
 TEST_F(印刷権限のない登録処理, 登録と印刷は保存し印刷せず何も言わない) {
     答える(u"btn_登録印刷"_qs);
-    f->印刷 = [this](const QString& 鍵) { 印刷 << 鍵; };
+    f->帳票要求 = [this](const QString& 区分, const QString& 鍵) { 印刷 << 区分 + 鍵; };
     打って備考Bを抜ける();
     EXPECT_EQ(伝票数(), 1);
     EXPECT_TRUE(印刷.isEmpty());

@@ -10,15 +10,6 @@
 #include "slip/起動処理.h"
 #include "text/台本プラットフォーム.h"
 
-namespace {
-
-struct 見えない画面 : 入力画面 {
-    void 表示() override {}
-    void 既定フォーカス設定() override {}
-};
-
-}  // namespace
-
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     const QStringList 引数 = app.arguments();
@@ -26,7 +17,7 @@ int main(int argc, char** argv) {
     台本プラットフォーム 基盤;
     基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
     出金セッション s(基盤);
-    見えない画面 画面;
+    画面なし 画面;
     紺碧帳起動 起動(s, 画面);
     s.データ.自身のフォルダ = 引数[1];
     if (!起動.データベース開始() || !起動.ユーザ情報初期化()) return 3;

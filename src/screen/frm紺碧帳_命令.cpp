@@ -1,0 +1,148 @@
+#include "dataenv/操作権限.h"
+#include "rules/集計日付計算.h"
+#include "screen/frm紺碧帳.h"
+#include "text/プラットフォーム.h"
+
+namespace {
+
+// A plain question with Yes and No; the two sentences of a question stand on two lines.
+bool 問う(プラットフォーム& 基盤, const QString& 文, int 既定ボタン = 1) {
+    メッセージ指定 指定;
+    指定.本文 = 文;
+    指定.ボタン = ボタン種別::はいいいえ;
+    指定.既定ボタン = 既定ボタン;
+    return 基盤.メッセージ表示(指定) == 応答::はい;
+}
+
+const QString 入力あり = u"入力がありました。"_qs;
+
+}  // namespace
+
+void frm紺碧帳::削除() {
+    if (s.画面表示中フラグ || 画面使用中) return;
+    データ環境& d = s.データ;
+    // Both checks run, whatever the first one answered.
+    const bool 権限 = 操作権限OK(d.操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 3));
+    const bool 期間 = 修正期間確認(d, s.見出し.出金日付, s.見出し.保持出金日付, s.新規情報フラグ,
+                                   d.操作者.アクセス権限);
+    if (!権限 || !期間) {
+        d.基盤.メッセージ(u"操作権限がありません。"_qs);
+        if (s.離脱項目) 画面.SetFocus(*s.離脱項目);
+        return;
+    }
+    // No is the default: a deletion is never the quiet answer.
+    if (!問う(d.基盤, s.削除確認文言(), 2)) {
+        if (s.離脱項目) 画面.SetFocus(*s.離脱項目);
+        return;
+    }
+    d.基盤.お待ち表示(true);
+    d.基盤.保留イベント処理();
+    s.削除処理();
+    s.出金情報初期化();
+    画面全表示();
+    詳細初期化();
+    d.基盤.お待ち表示(false);
+    if (s.連携起動フラグ) {
+        bool 取消 = false;
+        終了確認(取消);
+        return;
+    }
+    if (s.先頭入力項目) 画面.SetFocus(*s.先頭入力項目);
+}
+
+void frm紺碧帳::画面クリア() {
+    if (s.画面表示中フラグ || 画面使用中) return;
+    if (s.入力変更フラグ && !問う(s.データ.基盤, 入力あり + u"\r"_qs + u"クリアしますか？"_qs)) {
+        if (s.離脱項目) 画面.SetFocus(*s.離脱項目);
+        return;
+    }
+    s.出金情報初期化();
+    画面全表示();
+    詳細初期化();
+    if (s.先頭入力項目) 画面.SetFocus(*s.先頭入力項目);
+}
+
+void frm紺碧帳::隣へ(bool 前) {
+    if (s.画面表示中フラグ || 画面使用中) return;
+    // Whether there is a neighbour is asked first, so nothing is asked when there is none.
+    const bool ある = 前 ? s.前No確認() : s.次No確認();
+    const QString 問い =
+        入力あり + u"\r"_qs +
+        (前 ? u"クリアし前Noを表示しますか？"_qs : u"クリアし次Noを表示しますか？"_qs);
+    if (!ある || (s.入力変更フラグ && !問う(s.データ.基盤, 問い))) {
+        if (s.離脱項目) 画面.SetFocus(*s.離脱項目);
+        return;
+    }
+    if (前) {
+        s.前No読込();
+    } else {
+        s.次No読込();
+    }
+    画面全表示();
+    スクロール更新();
+    if (s.先頭入力項目) 画面.SetFocus(*s.先頭入力項目);
+}
+
+void frm紺碧帳::帳票(const QString& 出力区分) {
+    if (s.画面表示中フラグ || 画面使用中) return;
+    データ環境& d = s.データ;
+    const short 区分 = 出力区分 == u"0" ? 4 : 出力区分 == u"1" ? 5 : 7;
+    const QString 問い = 出力区分 == u"0"   ? u"印刷しますか?"_qs
+                         : 出力区分 == u"1" ? u"プレビュしますか?"_qs
+                                            : u"PDFを作成しますか?"_qs;
+    // A refused right ends the command without a word.
+    if (操作権限OK(d.操作権限確認(u"翠嶺"_qs, u"紺碧帳書"_qs, 区分)) && 問う(d.基盤, 問い)) {
+        if (帳票要求)
+            帳票要求(出力区分, s.見出し.事業所コード + s.見出し.番号基準日付 + s.見出し.出金No);
+        if (出力区分 == u"3") {
+            // The report program writes the PDF and registers it; the list is read once it is
+            // likely done.
+            for (int i = 0; i < 151; ++i) {
+                d.基盤.待機(10);
+                d.基盤.保留イベント処理();
+            }
+            付属書類listint();
+        }
+    }
+    if (出力区分 == u"0" && s.離脱項目) 画面.SetFocus(*s.離脱項目);
+}
+
+void frm紺碧帳::終了確認(bool& 取消) {
+    取消 = false;
+    if (!s.新規情報フラグ && !必須項目案内()) {
+        取消 = true;
+        return;
+    }
+    if (s.入力変更フラグ && !問う(s.データ.基盤, 入力あり + u"\r"_qs + u"終了しますか？"_qs)) {
+        取消 = true;
+        if (s.離脱項目) 画面.SetFocus(*s.離脱項目);
+        return;
+    }
+    if (停止) 停止();
+}
+
+void frm紺碧帳::付属書類listint() {
+    // The documents themselves are listed once attachments are read; the list starts empty.
+    表示中([this] {
+        部品& 一覧 = 画面(u"List付属書類"_qs);
+        一覧.一覧.clear();
+        一覧.ListIndex = -1;
+    });
+    付属書類ボタン更新();
+}
+
+void frm紺碧帳::付属書類ボタン更新() {
+    const bool 保存済み = !s.新規情報フラグ;
+    画面(u"btn_付属書類追加"_qs).Enabled = 保存済み;
+    画面(u"btn_フォルダ"_qs).Enabled = 保存済み;
+    bool 書類あり = false;
+    if (保存済み) {
+        記録集合 rs;
+        const QString 文 =
+            u"SELECT * FROM M付属書類 WHERE 情報名 = '紺碧帳' AND 情報識別ID = '"_qs +
+            s.見出し.事業所コード + s.見出し.番号基準日付 + 画面(u"出金No"_qs).Text + u"'"_qs;
+        書類あり = s.データ.業務DB検索(rs, 文);
+        rs.閉じる();
+    }
+    画面(u"btn_付属書類削除"_qs).Enabled = 書類あり;
+}
