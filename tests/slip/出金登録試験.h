@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "common/出金入力.h"
 #include "rules/未集計情報.h"
 #include "出金試験.h"
@@ -47,6 +49,16 @@ class 出金登録試験 : public 出金試験 {
             if (摘要.startsWith(種類)) r.append(摘要.mid(種類.size()));
         }
         return r;
+    }
+
+    // The last statements logged as run, oldest first; fewer when fewer were.
+    QStringList 最後の出力(qsizetype 件数) {
+        const QStringList 出力 = 履歴行(u"出力終了 "_qs);
+        return 出力.mid(std::max<qsizetype>(0, 出力.size() - 件数));
+    }
+    // The logged statement of the deletion of the stored header 00000001.
+    static QString 見出し削除文() {
+        return u"DELETE FROM T出金 WHERE 事業所コード = ''000'' AND 番号基準日付 = ''20260331'' AND 出金No = ''00000001''"_qs;
     }
 
     // The queue in the order it was written.

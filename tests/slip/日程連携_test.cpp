@@ -15,6 +15,12 @@ class 日程連携 : public 出金登録試験 {
     QStringList 更新の誤り() {
         return 履歴行(u"エラー "_qs).filter(u"UPDATE T営業活動明細 SET"_qs);
     }
+    // Exactly one update failed, and its logged text holds 文 (quotes doubled in the log).
+    void 一つの更新が失敗した(const QString& 文) {
+        const QStringList 誤り = 更新の誤り();
+        ASSERT_EQ(誤り.size(), 1);
+        EXPECT_TRUE(誤り[0].contains(文)) << 誤り[0].toStdString();
+    }
 };
 
 TEST_P(日程連携, 確認は伝票を指す行がなければ真で一行でもあれば偽) {
@@ -60,11 +66,8 @@ TEST_P(日程連携, 連携した行は日付と開始時刻の順に更新さ�
                                      u"00003|20251121|1300|||"_qs,
                                      u"00003|20251121'|0900|000|20260331|00000001"_qs}));
     // The failure is logged with the statement as composed; successful updates are not.
-    const QStringList 誤り = 更新の誤り();
-    ASSERT_EQ(誤り.size(), 1);
-    EXPECT_TRUE(誤り[0].contains(
-        u"UPDATE T営業活動明細 SET [出金事業所コード] = '''',[出金番号基準日付] = '''',[出金No] = '''' WHERE [担当者コード] = ''00003'' AND [日付] = ''20251121'''' AND [開始時刻] = ''0900'' AND [終了時刻] = ''1000''"_qs))
-        << 誤り[0].toStdString();
+    一つの更新が失敗した(
+        u"UPDATE T営業活動明細 SET [出金事業所コード] = '''',[出金番号基準日付] = '''',[出金No] = '''' WHERE [担当者コード] = ''00003'' AND [日付] = ''20251121'''' AND [開始時刻] = ''0900'' AND [終了時刻] = ''1000''"_qs);
     EXPECT_TRUE(履歴行(u"出力終了 "_qs).filter(u"T営業活動明細"_qs).isEmpty());
 }
 
@@ -83,11 +86,8 @@ TEST_P(日程連携, 引用符のある日付で一行の更新が失敗して�
     EXPECT_EQ(日程行(), (QStringList{u"00003|20251120|0900|000|20270331|00000007"_qs,
                                      u"00003|20251121'|0900|000|20260331|00000001"_qs,
                                      u"00003|20251122|0900|000|20270331|00000007"_qs}));
-    const QStringList 誤り = 更新の誤り();
-    ASSERT_EQ(誤り.size(), 1);
-    EXPECT_TRUE(誤り[0].contains(
-        u"UPDATE T営業活動明細 SET [出金事業所コード] = ''000'',[出金番号基準日付] = ''20270331'',[出金No] = ''00000007'' WHERE [担当者コード] = ''00003'' AND [日付] = ''20251121''''"_qs))
-        << 誤り[0].toStdString();
+    一つの更新が失敗した(
+        u"UPDATE T営業活動明細 SET [出金事業所コード] = ''000'',[出金番号基準日付] = ''20270331'',[出金No] = ''00000007'' WHERE [担当者コード] = ''00003'' AND [日付] = ''20251121''''"_qs);
 }
 
 // A time with a quote breaks its update the same way.
