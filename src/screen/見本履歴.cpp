@@ -90,6 +90,18 @@ class 事務所の一日 {
         f.画面.操作_クリック(c(u"btn_登録"_qs));
     }
 
+    // A visit in the schedule of the sales activity program that points at the stored slip, as
+    // that program links them.
+    void 日程を結ぶ(const QString& No, const QString& 担当者, const QDate& 日) {
+        const QString 日付 = 日.toString(u"yyyyMMdd"_qs);
+        s.データ.業務DB実行(
+            u"INSERT INTO T営業活動明細 (担当者コード, 日付, 開始時刻, 終了時刻, 件名, 内容, 出金事業所コード, 出金番号基準日付, 出金No) VALUES ('"_qs +
+            担当者 + u"', '"_qs + 日付 +
+            u"', '1400', '1530', '得意先訪問', '交通費を出金伝票で精算', '"_qs +
+            s.見出し.事業所コード + u"', '"_qs + s.見出し.番号基準日付 + u"', '"_qs + No +
+            u"')"_qs);
+    }
+
   private:
     // The number the last store took: the proposal on the screen may have gone to another
     // office in the meantime, and the store took the next free one.
@@ -175,8 +187,10 @@ int 見本履歴作成(const QString& プログラムフォルダ, const QDate& 
         const int k = i % 4 == 1 ? 1 : i % 4 == 3 ? 2 : 0;
         if (人[k].isEmpty()) continue;
         const int 行数 = i % 23 == 0 ? 15 : 1 + 乱.bounded(乱.bounded(4) == 0 ? 8 : 3);
-        const QString No = 一日[k]->伝票(日付[i], 人[k][乱.bounded(人[k].size())], 行数, 乱);
+        const QString 担当者 = 人[k][乱.bounded(人[k].size())];
+        const QString No = 一日[k]->伝票(日付[i], 担当者, 行数, 乱);
         ++保存;
+        if (i % 37 == 5) 一日[k]->日程を結ぶ(No, 担当者, 日付[i]);
         if (i % 9 == 0) 一日[k]->訂正(No, 乱);
     }
     一日.clear();

@@ -50,6 +50,10 @@ TEST_F(見本履歴, 二年度にわたる伝票が番号と履歴と待ち行�
     EXPECT_EQ(訂正, 5);
     EXPECT_EQ(数(u"SELECT COUNT(*) FROM 未集計情報"_qs), 40 + 2 * 訂正);
     EXPECT_EQ(数(u"SELECT COUNT(*) FROM 未集計情報 WHERE 赤黒区分 = '0'"_qs), 訂正);
+    // A schedule visit points at a stored slip.
+    EXPECT_EQ(
+        数(u"SELECT COUNT(*) FROM T営業活動明細 a, T出金 t WHERE a.出金事業所コード = t.事業所コード AND a.出金番号基準日付 = t.番号基準日付 AND a.出金No = t.出金No"_qs),
+        1);
     // The workplace is back on head office.
     EXPECT_EQ(木.環境DB行(u"SELECT 運用事業所コード FROM 動作環境定義"_qs)[0][0].toString(),
               u"000"_qs);

@@ -348,3 +348,94 @@ TEST_F(入力画面ウィンドウ試験, 窓で打った伝票を備考Bから�
 }
 
 }  // namespace
+
+namespace {
+
+// A working day in the real window, by keys and clicks: three slips, back to the first, a
+// correction, a deletion answered No and then Yes, a clear, a quit answered No and then Yes.
+TEST_F(入力画面ウィンドウ試験, 一日の業務をキーと釦で進めると表がその通りになる) {
+    基盤.画面表示時 = [this](const QString& 名) {
+        if (名 == u"msg印刷確認") f.印刷確認.画面.操作_クリック(f.印刷確認.画面(u"btn_登録"_qs));
+    };
+    int 停止 = 0;
+    f.停止 = [&] { ++停止; };
+    auto 数 = [this](const char* 表) {
+        return 木.業務DB行(u"SELECT COUNT(*) FROM "_qs + QString::fromUtf8(表))[0][0].toInt();
+    };
+    auto 一枚 = [this](int 行数) {
+        QTest::mouseClick(w(u"担当者コード"_qs), Qt::LeftButton);
+        打つ(u"3"_qs);
+        Tab();
+        for (int i = 0; i < 行数; ++i) {
+            打つ(u"3"_qs);
+            Tab();
+            支払先までTab();
+            Tab();
+            Tab();
+            打つ(QString::number(1000 * (i + 1)));
+            Tab();
+        }
+        QTest::mouseClick(w(u"btn_登録"_qs), Qt::LeftButton);
+    };
+    一枚(1);
+    一枚(2);
+    一枚(3);
+    EXPECT_EQ(数("T出金"), 3);
+    EXPECT_EQ(数("T出金明細"), 6);
+    EXPECT_EQ(欄(u"出金No"_qs)->text(), u"00000004"_qs);
+
+    for (int i = 0; i < 3; ++i) QTest::mouseClick(w(u"btn_前No"_qs), Qt::LeftButton);
+    EXPECT_EQ(欄(u"出金No"_qs)->text(), u"00000001"_qs);
+    EXPECT_EQ(数("T閲覧"), 3);
+
+    QTest::mouseClick(w(u"費目区分"_qs, 0), Qt::LeftButton);
+    支払先までTab();
+    Tab();
+    Tab();
+    ASSERT_EQ(焦点(), u"出金金額0"_qs);
+    欄(u"出金金額"_qs, 0)->selectAll();
+    打つ(u"1500"_qs);
+    Tab();
+    QTest::mouseClick(w(u"btn_登録"_qs), Qt::LeftButton);
+    EXPECT_EQ(数("R出金"), 1);
+    EXPECT_EQ(木.業務DB行(u"SELECT 出金金額合計 FROM T出金 WHERE 出金No = '00000001'"_qs)[0][0]
+                  .toLongLong(),
+              1500);
+
+    QTest::mouseClick(w(u"出金No"_qs), Qt::LeftButton);
+    欄(u"出金No"_qs)->selectAll();
+    打つ(u"2"_qs);
+    Tab();
+    QTest::mouseClick(w(u"btn_削除"_qs), Qt::LeftButton);  // the default answer, No
+    EXPECT_EQ(数("T出金"), 3);
+    基盤.回答.enqueue(応答::はい);
+    QTest::mouseClick(w(u"btn_削除"_qs), Qt::LeftButton);
+    EXPECT_EQ(数("T出金"), 2);
+    EXPECT_EQ(数("未集計情報"), 6);
+    EXPECT_EQ(欄(u"出金No"_qs)->text(), u"00000004"_qs);
+
+    QTest::mouseClick(w(u"担当者コード"_qs), Qt::LeftButton);
+    打つ(u"3"_qs);
+    Tab();
+    基盤.回答.enqueue(応答::はい);
+    QTest::mouseClick(w(u"btn_画面クリア"_qs), Qt::LeftButton);
+    EXPECT_EQ(欄(u"担当者コード"_qs)->text(), QString());
+
+    QTest::mouseClick(w(u"担当者コード"_qs), Qt::LeftButton);
+    打つ(u"5"_qs);
+    Tab();
+    基盤.回答.enqueue(応答::いいえ);
+    QTest::mouseClick(w(u"btn_終了"_qs), Qt::LeftButton);
+    EXPECT_EQ(停止, 0);
+    基盤.回答.enqueue(応答::いいえ);
+    窓->close();  // the frame's close asks the same, and No keeps the window
+    EXPECT_TRUE(窓->isVisible());
+    一致を確かめる();
+    基盤.回答.enqueue(応答::はい);
+    窓->close();
+    EXPECT_EQ(停止, 1);
+    EXPECT_EQ(基盤.表示文言().last(), u"入力がありました。\r終了しますか？"_qs);
+    EXPECT_FALSE(窓->isVisible());
+}
+
+}  // namespace
