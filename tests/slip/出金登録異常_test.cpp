@@ -116,6 +116,31 @@ TEST_P(出金登録異常, 読込専用になった業務DBへの登録は失敗
     EXPECT_EQ(明細行(), 二行の明細(u"1000|100|1100|1000|1100"_qs, u"20251120 100000"_qs, {}));
 }
 
+// Two users correct the same slip: nothing detects it. The later store replaces the earlier
+// correction, whose state it moves to the history as the old one.
+TEST_P(出金登録異常, 読んだ後に他の利用者が直した伝票を直すと後の保存が残り先の訂正は履歴に入る) {
+    ASSERT_TRUE(担当者入力(s, u"00003"_qs));
+    ASSERT_TRUE(明細入力(s, 3, 金額::円(1000), {}, u"元"_qs));
+    ASSERT_TRUE(s.新規登録処理());
+    s.出金情報初期化();
+    ASSERT_TRUE(読込(u"00000001"_qs));
+
+    出金セッション 他方{基盤};
+    出金セッション準備(他方, *木);
+    ASSERT_FALSE(HasFatalFailure());
+    他方.出金情報初期化();
+    ASSERT_TRUE(他方.出金No確定(u"00000001"_qs));
+    他方.行[0].摘要 = u"他方の訂正"_qs;
+    他方.修正登録処理();
+
+    s.行[0].摘要 = u"こちらの訂正"_qs;
+    s.修正登録処理();
+    EXPECT_EQ(表の行(u"SELECT 摘要 FROM T出金明細"_qs), QStringList{u"こちらの訂正"_qs});
+    EXPECT_EQ(表の行(u"SELECT 摘要 FROM R出金明細 WHERE 赤黒区分 = '0' ORDER BY 出金履歴No"_qs),
+              (QStringList{u"元"_qs, u"他方の訂正"_qs}));
+    EXPECT_EQ(表の行(u"SELECT COUNT(*) FROM T出金"_qs), QStringList{u"1"_qs});
+}
+
 KONPEKI_両エンジンで(出金登録異常);
 
 }  // namespace
