@@ -167,6 +167,32 @@ TEST_P(出金削除, 修正期間外の伝票は権限6でだけ削除の確認�
     EXPECT_EQ(明細行(), QStringList());
 }
 
+// The database server drops the program's connection between the header and the lines of a
+// deletion: the rest of the steps fail and are logged, the program goes on, and the other slip
+// stays whole.
+TEST_P(出金削除, 削除の途中でデータベースが切れても残りは記録されるだけで他の伝票は残る) {
+    if (!GetParam()) GTEST_SKIP() << "a server drops connections; a file does not";
+    二行の伝票を打つ();
+    ASSERT_TRUE(s.新規登録処理());
+    s.出金情報初期化();
+    三行の伝票を保存して読む();  // the three-line slip is 00000002; 00000001 is loaded
+    ASSERT_EQ(s.最終行, 1);
+    const qsizetype 前のエラー = 履歴行(u"エラー "_qs).size();
+
+    s.出金履歴書込();
+    ASSERT_TRUE(木->業務DB実行(
+        u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = current_database() AND pid <> pg_backend_pid()"_qs));
+    s.出金明細履歴書込();
+    s.後処理();
+
+    EXPECT_GT(履歴行(u"エラー "_qs).size(), 前のエラー);
+    EXPECT_EQ(表の行(u"SELECT 出金No FROM T出金"_qs), QStringList{u"00000002"_qs});
+    EXPECT_EQ(表の行(u"SELECT COUNT(*) FROM T出金明細 WHERE 出金No = '00000002'"_qs),
+              QStringList{u"3"_qs});
+    EXPECT_EQ(表の行(u"SELECT COUNT(*) FROM T出金明細 WHERE 出金No = '00000001'"_qs),
+              QStringList{u"2"_qs});
+}
+
 KONPEKI_両エンジンで(出金削除);
 
 }  // namespace

@@ -141,6 +141,23 @@ TEST_P(出金登録異常, 読んだ後に他の利用者が直した伝票を�
     EXPECT_EQ(表の行(u"SELECT COUNT(*) FROM T出金"_qs), QStringList{u"1"_qs});
 }
 
+// The server drops the program's connection between typing and storing, as it does when it is
+// stopped: every statement of the store fails and is logged, and the slip stored before stays.
+TEST_P(出金登録異常, 打った後にサーバーとの接続が切れた登録は失敗を記録し前の伝票を残す) {
+    if (!GetParam()) GTEST_SKIP() << "a server drops connections; a file does not";
+    二行の伝票を打つ();
+    ASSERT_TRUE(s.新規登録処理());
+    s.出金情報初期化();
+    二行の伝票を打つ();
+    const qsizetype 前のエラー = 履歴行(u"エラー "_qs).size();
+    ASSERT_TRUE(木->業務DB実行(
+        u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = current_database() AND pid <> pg_backend_pid()"_qs));
+    s.新規登録処理();
+    EXPECT_GT(履歴行(u"エラー "_qs).size(), 前のエラー);
+    EXPECT_EQ(表の行(u"SELECT 出金No FROM T出金"_qs), QStringList{u"00000001"_qs});
+    EXPECT_EQ(表の行(u"SELECT COUNT(*) FROM T出金明細"_qs), QStringList{u"2"_qs});
+}
+
 KONPEKI_両エンジンで(出金登録異常);
 
 }  // namespace
