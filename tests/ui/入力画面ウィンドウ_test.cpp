@@ -80,11 +80,21 @@ class 入力画面ウィンドウ試験 : public ::testing::Test {
             EXPECT_EQ(x->x(), p->Left / 15) << 名;
             EXPECT_EQ(x->y(), p->Top / 15) << 名;
             EXPECT_EQ(x->width(), qMax(1, p->Width / 15)) << 名;
-            if (p->種別 != 部品種別::SSTab) EXPECT_EQ(x->height(), qMax(1, p->Height / 15)) << 名;
-            if (auto* b = qobject_cast<QPushButton*>(x)) EXPECT_EQ(b->text(), p->Caption) << 名;
-            if (auto* l = qobject_cast<QLabel*>(x)) EXPECT_EQ(l->text(), p->Caption) << 名;
-            if (auto* e = qobject_cast<QLineEdit*>(x)) EXPECT_EQ(e->text(), p->Text) << 名;
-            if (auto* k = qobject_cast<QComboBox*>(x)) EXPECT_EQ(k->currentText(), p->Text) << 名;
+            if (p->種別 != 部品種別::SSTab) {
+                EXPECT_EQ(x->height(), qMax(1, p->Height / 15)) << 名;
+            }
+            if (auto* b = qobject_cast<QPushButton*>(x)) {
+                EXPECT_EQ(b->text(), p->Caption) << 名;
+            }
+            if (auto* l = qobject_cast<QLabel*>(x)) {
+                EXPECT_EQ(l->text(), p->Caption) << 名;
+            }
+            if (auto* e = qobject_cast<QLineEdit*>(x)) {
+                EXPECT_EQ(e->text(), p->Text) << 名;
+            }
+            if (auto* k = qobject_cast<QComboBox*>(x)) {
+                EXPECT_EQ(k->currentText(), p->Text) << 名;
+            }
         }
     }
     // A picture for the eye; what it shows is asserted through the widgets.

@@ -97,7 +97,9 @@ TEST_F(問いの窓, お待ちの窓は文を出し消える) {
     基盤.お待ち表示(false);
     QApplication::processEvents();
     for (QWidget* w : QApplication::topLevelWidgets()) {
-        if (dynamic_cast<ScreenWindow*>(w)) EXPECT_FALSE(w->isVisible());
+        if (dynamic_cast<ScreenWindow*>(w)) {
+            EXPECT_FALSE(w->isVisible());
+        }
     }
 }
 
