@@ -22,7 +22,7 @@ struct 接続先 {
     bool 同期は区切りごと = false;
 };
 
-// An error as the original's error object carried it: a number and a description.
+// A failed statement or open: the driver's error number and its description.
 struct 接続エラー {
     QString 番号;
     QString 説明;

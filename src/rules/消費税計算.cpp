@@ -17,8 +17,7 @@ QString 税率照会文(const データ環境& 環境, const QString& 日付) {
            u"' ORDER BY G消費税.施行日 DESC"_qs;
 }
 
-// A quotient of doubles as the original's runtime gives it: a division by zero fails, and 0/0
-// is an overflow there.
+// A quotient of doubles: a division by zero fails with ゼロ除算, and 0/0 fails as an overflow.
 double 倍精度除算(double 被除数, double 除数) {
     if (除数 == 0.0) {
         if (被除数 == 0.0) throw 桁あふれ();

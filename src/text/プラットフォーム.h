@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <functional>
 
-// Buttons of a message box, as the original's MsgBox styles name them.
+// The button sets a message box can have.
 enum class ボタン種別 {
     OK,
     OKキャンセル,
@@ -22,7 +22,7 @@ struct メッセージ指定 {
     QString 本文;
     ボタン種別 ボタン = ボタン種別::OK;
     アイコン種別 アイコン = アイコン種別::なし;
-    int 既定ボタン = 1;  // 1 = first button, as MsgBox counts them
+    int 既定ボタン = 1;  // counted from 1: the first button
     QString 題名;        // empty: the default title (the program's name)
 };
 

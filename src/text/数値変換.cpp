@@ -66,7 +66,7 @@ qsizetype 仮数と指数読込(QStringView s, qsizetype i, bool 区切り許可
 }
 
 // "&H" and "&O" integers: up to 16 bits they are read as a 16-bit integer and up to 32 bits as a
-// 32-bit one, so "&HFFFF" is -1 as in the original.
+// 32-bit one, so "&HFFFF" is -1.
 qsizetype 基数付き読込(QStringView s, qsizetype i, 十進数& 値, bool& 数字あり) {
     const QChar 種 = s[i + 1];
     const int 基数 = (種 == u'H' || 種 == u'h') ? 16 : 8;

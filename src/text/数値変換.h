@@ -27,23 +27,23 @@ struct 十進数 {
 
     static 十進数 整数から(qint64 値);
     // 有効桁 0 takes the shortest digits that read back as the same double, so 0.00015 is
-    // 0.00015 and not the binary value a hair below it; 15 gives the digits the original's
-    // runtime shows of a double.
+    // 0.00015 and not the binary value a hair below it; 15 gives the 15 significant
+    // digits by which a double is shown.
     static 十進数 倍精度から(double 値, int 有効桁 = 0);
 };
 
-// The numeric value of a text as the original's Val reads it: blanks, tabs and line feeds are
+// The numeric value of a text: blanks, tabs and line feeds are
 // dropped wherever they stand, then the longest numeric start counts (sign, digits, one point,
 // exponent by "E" or "D", or "&H" / "&O" integers); "" and "abc" are 0, "12円" is 12 and
-// "1,234" is 1, since Val knows no group separator.
+// "1,234" is 1, since no group separator is read.
 十進数 数値先頭解析(QStringView 文字列);
-// Val proper. A value beyond the range of a double overflows (桁あふれ).
+// The value as a double. A value beyond the range of a double overflows (桁あふれ).
 double 数値変換(QStringView 文字列);
-// The numeric value as a small (16-bit) integer, half to even as the original converts;
+// The numeric value as a small (16-bit) integer, rounded half to even;
 // beyond -32768..32767 it overflows (桁あふれ).
 qint16 小整数値(QStringView 文字列);
 
-// The whole text is a number (blanks around it, "," between digits allowed), as the original
-// decides before it formats a text; nullopt otherwise, and for an empty text.
+// The whole text is a number (blanks around it, "," between digits allowed), the test made
+// before a text is formatted as a number; nullopt otherwise, and for an empty text.
 std::optional<十進数> 数値文字列解析(QStringView 文字列);
 bool 数値文字列か(QStringView 文字列);

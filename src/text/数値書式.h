@@ -21,7 +21,7 @@ inline constexpr QStringView 三桁 = u"000";                // line numbers, of
 inline constexpr QStringView 八桁 = u"00000000";           // slip and application numbers
 }  // namespace 数値書式
 
-// A number by a mask as the original's Format writes it, for masks of one section:
+// A number written by a mask of one section:
 //   "0"  a digit that is always written, "#" a digit written only when significant;
 //   "."  the decimal point: the value is rounded half away from zero to the places after it,
 //        "0" places always written, "#" places only when not a trailing zero;
@@ -29,11 +29,11 @@ inline constexpr QStringView 八桁 = u"00000000";           // slip and applica
 //        place: the value divided by 1000;
 //   other characters are written as they stand.
 // The whole part is never cut: digits beyond the places spill to the left. A negative value gets
-// "-" in front, also when it rounds to zero ("-0"), as the original writes it. Zero by "###" is
+// "-" in front, also when it rounds to zero ("-0"). Zero by "###" is
 // an empty text. An empty mask writes the plain number.
 QString 書式(const 十進数& 値, QStringView マスク);
 QString 書式(const 金額& 値, QStringView マスク);
-// A double counts by its first 15 significant digits, as the original shows doubles.
+// A double counts by its first 15 significant digits.
 QString 書式(double 値, QStringView マスク);
 template <std::integral T>
 QString 書式(T 値, QStringView マスク) {

@@ -29,7 +29,7 @@ class 金額 {
     // decimal form, so 0.00015 is a tie (→ 0.0002) although its binary value lies just below.
     static 金額 倍精度から偶数丸め(double 値);
     static 金額 十進数から偶数丸め(const 十進数& 値);
-    // The numeric value of a text (Val: "" is 0, "12円" is 12, "1,234" is 1), half to even at
+    // The numeric value of a text (数値変換: "" is 0, "12円" is 12, "1,234" is 1), half to even at
     // the fourth decimal.
     static 金額 文字列から(QStringView 文字列);
     // The same for a field that shows group separators: "1,234,567" is 1234567.
@@ -38,7 +38,7 @@ class 金額 {
     constexpr qint64 万分単位() const { return 値_; }
     double 倍精度() const;
     十進数 十進表記() const;
-    // The shortest text of the value, as the original writes money as text: "8", "6.24", "-0.5".
+    // The shortest text of the value: "8", "6.24", "-0.5".
     QString 文字列() const;
 
     constexpr bool ゼロか() const { return 値_ == 0; }
