@@ -67,7 +67,7 @@ void frm紺碧帳::事象を結ぶ() {
         for (const char16_t* 枠 : {u"bak_dtla", u"bak_dtlb"}) {
             画面(QString::fromUtf16(枠), r).Click = [this, r] {
                 if (s.画面表示中フラグ) return;
-                if (!入力順序確認(2, r, QString(), 1) && s.離脱項目) 画面.SetFocus(*s.離脱項目);
+                if (!入力順序確認(2, r, QString(), 1)) 離脱項目へ();
             };
         }
     }
@@ -81,7 +81,7 @@ void frm紺碧帳::事象を結ぶ() {
         if (!s.画面表示中フラグ) スクロール変更();
     };
     画面(u"prg_ttl"_qs).Click = [this] {
-        if (!s.画面表示中フラグ && s.離脱項目) 画面.SetFocus(*s.離脱項目);
+        if (!s.画面表示中フラグ) 離脱項目へ();
     };
     画面(u"manualpanel"_qs).Click = [this] {
         if (!s.画面表示中フラグ) マニュアル表示();
@@ -212,9 +212,7 @@ void frm紺碧帳::画面全表示() {
     見出し表示();
     明細表示();
     合計表示();
-    s.画面表示中フラグ = true;
-    付属書類listint();
-    s.画面表示中フラグ = false;
+    表示中([this] { 付属書類listint(); });
 }
 
 void frm紺碧帳::見出し表示() {

@@ -112,10 +112,18 @@ class frm紺碧帳 {
     void スクロール変更();
     void 名前で移す(const QString& 名前, int 行 = -1);
 
+    // The refusals and the end of a store or a deletion, shared by both commands.
+    void 離脱項目へ();
+    bool 書込権限確認(short 操作区分);
+    void 新しい伝票へ();
+
+    // Writes to the controls without their events reading it back as input; a display inside
+    // another keeps the outer one's guard.
     template <class F>
     void 表示中(F&& 書く) {
+        const bool 外 = s.画面表示中フラグ;
         s.画面表示中フラグ = true;
         書く();
-        s.画面表示中フラグ = false;
+        s.画面表示中フラグ = 外;
     }
 };

@@ -1,5 +1,4 @@
 #include "dataenv/操作権限.h"
-#include "rules/集計日付計算.h"
 #include "screen/frm紺碧帳.h"
 #include "text/プラットフォーム.h"
 
@@ -20,40 +19,22 @@ const QString 入力あり = u"入力がありました。"_qs;
 
 void frm紺碧帳::削除() {
     if (s.画面表示中フラグ || 画面使用中) return;
-    データ環境& d = s.データ;
-    // Both checks run, whatever the first one answered.
-    const bool 権限 = 操作権限OK(d.操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 3));
-    const bool 期間 = 修正期間確認(d, s.見出し.出金日付, s.見出し.保持出金日付, s.新規情報フラグ,
-                                   d.操作者.アクセス権限);
-    if (!権限 || !期間) {
-        d.基盤.メッセージ(u"操作権限がありません。"_qs);
-        if (s.離脱項目) 画面.SetFocus(*s.離脱項目);
-        return;
-    }
+    if (!書込権限確認(3)) return;
     // No is the default: a deletion is never the quiet answer.
-    if (!問う(d.基盤, s.削除確認文言(), 2)) {
-        if (s.離脱項目) 画面.SetFocus(*s.離脱項目);
+    if (!問う(s.データ.基盤, s.削除確認文言(), 2)) {
+        離脱項目へ();
         return;
     }
-    d.基盤.お待ち表示(true);
-    d.基盤.保留イベント処理();
+    s.データ.基盤.お待ち表示(true);
+    s.データ.基盤.保留イベント処理();
     s.削除処理();
-    s.出金情報初期化();
-    画面全表示();
-    詳細初期化();
-    d.基盤.お待ち表示(false);
-    if (s.連携起動フラグ) {
-        bool 取消 = false;
-        終了確認(取消);
-        return;
-    }
-    if (s.先頭入力項目) 画面.SetFocus(*s.先頭入力項目);
+    新しい伝票へ();
 }
 
 void frm紺碧帳::画面クリア() {
     if (s.画面表示中フラグ || 画面使用中) return;
     if (s.入力変更フラグ && !問う(s.データ.基盤, 入力あり + u"\r"_qs + u"クリアしますか？"_qs)) {
-        if (s.離脱項目) 画面.SetFocus(*s.離脱項目);
+        離脱項目へ();
         return;
     }
     s.出金情報初期化();
@@ -70,7 +51,7 @@ void frm紺碧帳::隣へ(bool 前) {
         入力あり + u"\r"_qs +
         (前 ? u"クリアし前Noを表示しますか？"_qs : u"クリアし次Noを表示しますか？"_qs);
     if (!ある || (s.入力変更フラグ && !問う(s.データ.基盤, 問い))) {
-        if (s.離脱項目) 画面.SetFocus(*s.離脱項目);
+        離脱項目へ();
         return;
     }
     if (前) {
@@ -92,8 +73,7 @@ void frm紺碧帳::帳票(const QString& 出力区分) {
                                             : u"PDFを作成しますか?"_qs;
     // A refused right ends the command without a word.
     if (操作権限OK(d.操作権限確認(u"翠嶺"_qs, u"紺碧帳書"_qs, 区分)) && 問う(d.基盤, 問い)) {
-        if (帳票要求)
-            帳票要求(出力区分, s.見出し.事業所コード + s.見出し.番号基準日付 + s.見出し.出金No);
+        if (帳票要求) 帳票要求(出力区分, s.伝票鍵());
         if (出力区分 == u"3") {
             // The report program writes the PDF and registers it; the list is read once it is
             // likely done.
@@ -104,7 +84,7 @@ void frm紺碧帳::帳票(const QString& 出力区分) {
             付属書類listint();
         }
     }
-    if (出力区分 == u"0" && s.離脱項目) 画面.SetFocus(*s.離脱項目);
+    if (出力区分 == u"0") 離脱項目へ();
 }
 
 void frm紺碧帳::終了確認(bool& 取消) {
@@ -115,7 +95,7 @@ void frm紺碧帳::終了確認(bool& 取消) {
     }
     if (s.入力変更フラグ && !問う(s.データ.基盤, 入力あり + u"\r"_qs + u"終了しますか？"_qs)) {
         取消 = true;
-        if (s.離脱項目) 画面.SetFocus(*s.離脱項目);
+        離脱項目へ();
         return;
     }
     if (停止) 停止();

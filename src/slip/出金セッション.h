@@ -154,6 +154,8 @@ class 出金セッション {
 
     // The nine totals added up from the lines in use.
     void 合計再計算();
+    // The slip key as one text of 19 characters: office, number base date, number.
+    QString 伝票鍵() const { return 見出し.事業所コード + 見出し.番号基準日付 + 見出し.出金No; }
 
     // The slip date as typed: repaired, and what hangs on it derived again (number period,
     // proposal, aggregate date, tax rates).
