@@ -98,17 +98,19 @@ QString wnd出金No一覧::検索文作成() {
 }
 
 void wnd出金No一覧::行を加える(記録集合& rs, int) {
-    const auto 欄 = [&rs](const QString& 名) {
-        const QVariant v = rs.値(名);
+    // The columns in the order of the SELECT: office, base date, number, date, staff, total,
+    // staff name.
+    const auto 欄 = [&rs](int c) {
+        const QVariant v = rs.値(c);
         return v.isNull() ? QString() : v.toString();
     };
     一覧項目 項;
-    項.Text = 欄(u"出金No"_qs);
+    項.Text = 欄(2);
     // The slip's key without separators: office, number base date, number.
-    項.Key = u"C"_qs + 欄(u"事業所コード"_qs) + 欄(u"番号基準日付"_qs) + 項.Text;
-    const QVariant 金額 = rs.値(u"実質出金金額合計"_qs);
+    項.Key = u"C"_qs + 欄(0) + 欄(1) + 項.Text;
+    const QVariant 合計 = rs.値(5);
     項.SubItems = {
-        欄(u"出金日付"_qs), 欄(u"担当者コード"_qs), 欄(u"担当者名"_qs),
-        金額.isNull() ? QString() : 書式(rs.金額値(u"実質出金金額合計"_qs), 数値書式::一覧金額)};
+        欄(3), 欄(4), 欄(6),
+        合計.isNull() ? QString() : 書式(rs.金額値(u"実質出金金額合計"_qs), 数値書式::一覧金額)};
     一覧().項目追加(std::move(項));
 }

@@ -5,7 +5,6 @@
 #include "dataenv/データ環境.h"
 #include "slip/出金セッション.h"
 #include "text/プラットフォーム.h"
-#include "text/数値書式.h"
 #include "text/項目編集.h"
 
 namespace {
@@ -93,7 +92,7 @@ void wnd出金摘要一覧::行を加える(記録集合& rs, int 件数) {
     一覧項目 項;
     項.Text = rs.文字列(u"先頭摘要"_qs);
     // Without DISTINCT the same text comes more than once; the counter keeps the keys apart.
-    項.Key =
-        方言() == u"A" ? u"C"_qs + 書式(件数 + 1, u"00000000000") + 項.Text : u"C"_qs + 項.Text;
+    項.Key = 方言() == u"A" ? u"C"_qs + QString::number(件数 + 1).rightJustified(11, u'0') + 項.Text
+                            : u"C"_qs + 項.Text;
     一覧().項目追加(std::move(項));
 }

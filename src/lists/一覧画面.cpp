@@ -8,8 +8,9 @@
 
 一覧画面::一覧画面(出金セッション& s_, 画面モデル& 主画面, const QString& 名前, const 部品表& 表,
                    const QString& 一覧名)
-    : 画面(名前), s(s_), d(s_.データ), 主(主画面), 一覧部品名(一覧名) {
+    : 画面(名前), s(s_), d(s_.データ), 主(主画面) {
     画面.作る(表);
+    一覧部品 = &画面(一覧名);
     // Esc reaches the window before any control: it is the way back.
     画面.KeyPreview = [this](int キー) {
         if (キー != 27) return false;
@@ -27,7 +28,7 @@
 }
 
 部品& 一覧画面::一覧() {
-    return 画面(一覧部品名);
+    return *一覧部品;
 }
 
 const 条件欄* 一覧画面::欄(const QString& 名前) const {
@@ -206,6 +207,7 @@ void 一覧画面::一覧検索実行() {
 
 void 一覧画面::行を加える(記録集合& rs, int) {
     一覧項目 項;
+    項.SubItems.reserve(rs.列数());
     項.Text = rs.値(0).toString();
     // A key must not be purely numeric.
     項.Key = u"C"_qs + 項.Text;

@@ -104,7 +104,7 @@ class 一覧画面 {
     QList<区分欄> 区分欄群;
 
   private:
-    const QString 一覧部品名;
+    部品* 一覧部品;
     void 閉じる();
     void 呼出元へ戻す();
     void 入れ子一覧(const 条件欄& 欄);
