@@ -17,3 +17,12 @@ int 操作員実行(const QString& プログラムフォルダ, int 番号, int 
 // figures (see scripts/stress). Answers 0 when every invariant holds.
 int 検査実行(const QString& プログラムフォルダ, const QStringList& 記録ファイル, double 秒,
              int 操作員数);
+
+// One operator for the fault tests, on the tree of the program folder:
+//   kill POINT    stores a slip of two lines, then one of three killed at POINT of its store
+//   probe -       the same without the kill; prints how often the second store read the clock
+//   hold POINT    stores a slip of two lines, waiting at POINT for a line on standard input
+//   delete NO     deletes the slip NO
+// POINT is "before" (the first statement not yet run), "after" (committed and cleared), or N,
+// the N-th read of the clock during the store. Prints "DONE" when it got to the end.
+int 単発実行(const QString& プログラムフォルダ, const QString& 動作, const QString& 点);
