@@ -21,6 +21,12 @@ struct 集計 {
     QHash<QString, 期待伝票> 伝票;
 };
 
+// A money column as whole yen, whatever the engine's text of a number looks like ("30600",
+// "30600.0000").
+qint64 円(const QString& t) {
+    return qRound64(t.toDouble());
+}
+
 QList<qint64> 金額列(const QString& t) {
     QList<qint64> 額;
     for (const QString& x : t.split(u',', Qt::SkipEmptyParts)) 額 << x.toLongLong();
@@ -157,12 +163,12 @@ int 検査実行(const QString& プログラムフォルダ, const QStringList& 
         bool 一致 = 行.size() == it->金額.size();
         for (int i = 0; 一致 && i < 行.size(); ++i) {
             一致 = 行[i][0] == QString::number(i + 1).rightJustified(3, u'0') &&
-                   行[i][1].toLongLong() == it->金額[i];
-            額計 += 行[i][1].toLongLong();
-            税計 += 行[i][2].toLongLong();
+                   円(行[i][1]) == it->金額[i];
+            額計 += 円(行[i][1]);
+            税計 += 円(行[i][2]);
         }
         if (!一致) v.違反 << u"lines of "_qs + 印 + u" differ from what was typed"_qs;
-        if (見出し[鍵][1].toLongLong() != 額計 || 見出し[鍵][2].toLongLong() != 税計)
+        if (円(見出し[鍵][1]) != 額計 || 円(見出し[鍵][2]) != 税計)
             v.違反 << u"totals of "_qs + 印 + u" are not those of its lines"_qs;
     }
 

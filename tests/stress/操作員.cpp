@@ -71,6 +71,10 @@ class 操作員 {
 
     void 新規(const QString& 印) {
         伝票 d{印, {}};
+        if (!s.新規情報フラグ) {
+            記す(u"E the screen still holds slip "_qs + s.見出し.出金No + u" before "_qs + 印);
+            f.画面.操作_クリック(c(u"btn_画面クリア"_qs));
+        }
         const int 行数 = 1 + static_cast<int>(乱.bounded(4));
         打つ(c(u"担当者コード"_qs), u"3"_qs);
         for (int r = 0; r < 行数; ++r) {
@@ -87,7 +91,21 @@ class 操作員 {
             f.画面.操作_クリック(c(u"btn_画面クリア"_qs));
             return;
         }
+        const qsizetype 待ち = 基盤.お待ち履歴.size();
+        const qsizetype 知らせ = 基盤.表示済み.size();
+        const bool 押せる = c(u"btn_登録"_qs).Enabled;
         f.画面.操作_クリック(c(u"btn_登録"_qs));
+        if (基盤.お待ち履歴.size() == 待ち) {
+            // The store did not run: say what the screen showed instead.
+            QStringList 文言;
+            for (qsizetype i = 知らせ; i < 基盤.表示済み.size(); ++i) 文言 << 基盤.表示済み[i].本文;
+            記す(u"E "_qs + 印 + u" was not stored: button "_qs +
+                 (押せる ? u"enabled"_qs : u"disabled"_qs) + u", notice '"_qs +
+                 c(u"お知らせ"_qs).Caption + u"', staff '"_qs + s.見出し.担当者名 +
+                 u"', messages: "_qs + 文言.join(u" / "_qs));
+            f.画面.操作_クリック(c(u"btn_画面クリア"_qs));
+            return;
+        }
         記す(u"N "_qs + 印 + u" "_qs + 金額列(d.金額));
         生存.push_back(d);
     }
@@ -116,7 +134,9 @@ class 操作員 {
     void 訂正(int k) {
         伝票& d = 生存[k];
         if (!呼び出す(d)) return;
-        const int 額 = 100 * (1 + static_cast<int>(乱.bounded(500)));
+        int 額 = 100 * (1 + static_cast<int>(乱.bounded(500)));
+        // The same amount again would change nothing, and an unchanged slip is not stored.
+        if (額 == d.金額[0]) 額 += 100;
         f.画面.操作_フォーカス(c(u"費目区分"_qs, 0));
         打つ(c(u"出金金額"_qs, 0), QString::number(額));
         d.金額[0] = 額;
