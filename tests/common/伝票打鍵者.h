@@ -39,6 +39,11 @@ class 伝票打鍵者 {
         打つ(c(u"出金伝票備考A"_qs), 印);
         f.画面.操作_クリック(c(u"btn_登録"_qs));
     }
+    // Brings the slip up by its number and clears the screen again: one look-up, one browse row.
+    void 見る(const QString& No) {
+        打つ(c(u"出金No"_qs), No);
+        f.画面.操作_クリック(c(u"btn_画面クリア"_qs));
+    }
     void 削除(const QString& No) {
         打つ(c(u"出金No"_qs), No);
         基盤.回答.enqueue(応答::はい);

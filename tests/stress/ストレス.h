@@ -23,6 +23,7 @@ int 検査実行(const QString& プログラムフォルダ, const QStringList& 
 //   probe -       the same without the kill; prints how often the second store read the clock
 //   hold POINT    stores a slip of two lines, waiting at POINT for a line on standard input
 //   delete NO     deletes the slip NO
+//   browse N      looks the slip 00000001 up N times
 // POINT is "before" (the first statement not yet run), "after" (committed and cleared), or N,
 // the N-th read of the clock during the store. Prints "DONE" when it got to the end.
 int 単発実行(const QString& プログラムフォルダ, const QString& 動作, const QString& 点);

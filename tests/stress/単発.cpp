@@ -50,6 +50,8 @@ int 単発実行(const QString& プログラムフォルダ, const QString& 動�
         };
         人.基盤.点 = 点;
         人.新規(u"待"_qs, 2);
+    } else if (動作 == u"browse") {
+        for (int i = 0; i < 点.toInt(); ++i) 人.見る(u"00000001"_qs);
     } else if (動作 == u"delete") {
         人.削除(点);
     } else {
