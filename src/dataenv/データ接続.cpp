@@ -151,7 +151,16 @@ bool データ接続::文実行(QSqlQuery& q, const QString& 文) {
 
 bool データ接続::一括開始() {
     if (一括 || !開いている() || 変換先 == SQL方言::そのまま) return true;
-    一括 = 制御文(変換先 == SQL方言::SQLite ? u"BEGIN IMMEDIATE"_qs : u"BEGIN"_qs);
+    if (変換先 == SQL方言::SQLite) {
+        一括 = 制御文(u"BEGIN IMMEDIATE"_qs);
+        return 一括;
+    }
+    // PostgreSQL reads a counter without waiting for the batch that has changed its row, and the
+    // update behind the read then writes the same number again; a history number has nothing in
+    // R出金 to be checked against. So batches take one lock at their start and run one after
+    // another, as BEGIN IMMEDIATE makes them on SQLite; the lock ends with the batch.
+    一括 = 制御文(u"BEGIN"_qs);
+    if (一括) 制御文(u"SELECT pg_advisory_xact_lock(16810)"_qs);
     return 一括;
 }
 

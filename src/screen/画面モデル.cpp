@@ -135,7 +135,17 @@ void 画面モデル::待ちを処理() {
         }
     } 終わり{*this};
     int 安全弁 = 0;
-    while (!待ち.isEmpty() && ++安全弁 < 1000) 移す(待ち.dequeue());
+    while (++安全弁 < 1000) {
+        if (!待ち.isEmpty()) {
+            移す(待ち.dequeue());
+            continue;
+        }
+        // A control disabled or hidden while it held the focus hands it on in tab order, as the
+        // window system moves it; no key could reach it where it stands.
+        部品* 次 = 現在 && !焦点可(*現在) ? 次のタブ(現在, false) : nullptr;
+        if (!次) break;
+        待ち.enqueue(次);
+    }
 }
 
 void 画面モデル::値を変える(部品& 先, int 値) {

@@ -91,7 +91,14 @@ QString 書式(const 十進数& 値, QStringView マスク) {
 
     QString 整数部;
     if (区切り) {
-        for (qsizetype i = 整数.size() - 3; i > 0; i -= 3) 整数.insert(i, u',');
+        // In one pass: a text can bring a million digits.
+        QString 区切った;
+        区切った.reserve(整数.size() + 整数.size() / 3);
+        for (qsizetype i = 0; i < 整数.size(); ++i) {
+            if (i > 0 && (整数.size() - i) % 3 == 0) 区切った += u',';
+            区切った += 整数[i];
+        }
+        整数 = 区切った;
         // Grouped digits stand as one block where the places are.
         const qsizetype 最後 = 最後の字句(整数字句);
         bool 置いた = false;
