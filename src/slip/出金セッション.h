@@ -93,7 +93,9 @@ extern const QString 出金見出し結合;
 // the screen. A test makes a fresh one for each case.
 class 出金セッション {
   public:
-    explicit 出金セッション(プラットフォーム& 基盤) : データ(基盤) {}
+    // The report program reads slips through a session of its own program ID.
+    explicit 出金セッション(プラットフォーム& 基盤, const QString& プログラムID = u"紺碧帳"_qs)
+        : データ(基盤, プログラムID) {}
 
     データ環境 データ;
     出金見出し 見出し;
