@@ -63,7 +63,7 @@ void 出金伝票描画(QPainter& p, const QRectF& 頁, const 出金伝票帳票
     p.setRenderHint(QPainter::Antialiasing);
     p.setRenderHint(QPainter::TextAntialiasing);
     QPen 線(Qt::black);
-    線.setWidthF(2.5);
+    線.setWidthF(3.5);
     p.setPen(線);
 
     // Title, company and office.

@@ -54,6 +54,8 @@ class frm紺碧帳 {
     // The slip's record in M付属書類 as the screen shows it: office, the number base date of
     // the date on screen, the number on screen.
     QString 付属書類識別ID();
+    // The Key of the list's selected item; empty with none selected.
+    QString 選択中の付属書類();
 
     // The screen's load step: lay out, fill the lists, title the window, load or clear the slip,
     // display.

@@ -27,6 +27,13 @@ QString frm紺碧帳::付属書類識別ID() {
            画面(u"出金No"_qs).Text;
 }
 
+QString frm紺碧帳::選択中の付属書類() {
+    // The list holds the record's documents in SEQNo order, so its index finds the row.
+    const int i = 画面(u"List付属書類"_qs).ListIndex;
+    if (i < 0) return QString();
+    return 付属書類一覧(s.データ, 出金情報名, 付属書類識別ID()).value(i).Key;
+}
+
 void frm紺碧帳::付属書類ファイル追加() {
     if (s.画面表示中フラグ || 画面使用中) return;
     データ環境& d = s.データ;

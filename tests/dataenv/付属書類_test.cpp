@@ -5,6 +5,7 @@
 #include <QProcess>
 
 #include "common/エンジン別試験.h"
+#include "dataenv/ファイル操作.h"
 #include "dataenv/付属書類.h"
 
 namespace {
@@ -116,7 +117,7 @@ TEST_P(付属書類, 下線を含む名前もそのまま写し一覧は行の�
     ASSERT_EQ(一覧.size(), 1);
     EXPECT_EQ(一覧[0].Key, u"C"_qs + 甲 + u"001"_qs);
     EXPECT_EQ(一覧[0].タイトル, u"見積_第2版_最終"_qs);
-    EXPECT_EQ(一覧[0].サイズ, u"1KB"_qs);
+    EXPECT_EQ(一覧[0].サイズ, u"0KB"_qs);  // six bytes
     QString 識別, SEQNo;
     ASSERT_TRUE(付属書類キー分解(一覧[0].Key, 識別, SEQNo));
     EXPECT_EQ(識別, 甲);
@@ -201,7 +202,7 @@ TEST_P(付属書類, 引用符と空白と日本語の名前もそのまま行�
     EXPECT_EQ(行[0][1].toString(), u"O'Brien 様 \"請求\" 書 "_qs);
     EXPECT_EQ(中身(文書() + u"/紺碧帳_"_qs + 甲 + u"_001_O'Brien 様 \"請求\" 書 .txt"_qs),
               QByteArray("請求"));
-    EXPECT_EQ(付属書類一覧(環境, u"紺碧帳"_qs, 甲).value(0).サイズ, u"1KB"_qs);
+    EXPECT_EQ(付属書類一覧(環境, u"紺碧帳"_qs, 甲).value(0).サイズ, u"0KB"_qs);
 }
 
 TEST_P(付属書類, 手で消された写しの書類も行は外れ何も言わない) {

@@ -27,6 +27,9 @@ class 付属書類画面 : public 入力画面試験 {
         f->画面.操作_入力(c(u"出金No"_qs), No);
         f->画面.操作_Tab();
         EXPECT_FALSE(s.新規情報フラグ);
+        // The operator turns to the attachment page.
+        f->画面.操作_値変更(c(u"tab_詳細"_qs), 1);
+        EXPECT_EQ(c(u"tab_詳細"_qs).Value, 1);
         return No;
     }
     QString 置く(const QString& 名前) {
@@ -135,6 +138,27 @@ TEST_F(付属書類画面, 開くのは写しで手で消された写しでも�
     f->付属書類を開く(u"C"_qs + 識別(No) + u"001"_qs);
     EXPECT_EQ(基盤.開いた文書.size(), 2);
     EXPECT_TRUE(基盤.表示済み.isEmpty());
+}
+
+TEST_F(付属書類画面, 釦と二度押しは一覧で選んだ書類に働く) {
+    const QString No = 保存して呼ぶ();
+    基盤.選択回答.enqueue(置く(u"a.txt"_qs));
+    f->画面.操作_クリック(c(u"btn_付属書類追加"_qs));
+    基盤.選択回答.enqueue(置く(u"b.txt"_qs));
+    f->画面.操作_クリック(c(u"btn_付属書類追加"_qs));
+    ASSERT_EQ(c(u"List付属書類"_qs).一覧, (QStringList{u"a"_qs, u"b"_qs}));
+    // Nothing selected: neither opens nor asks.
+    f->画面.操作_ダブルクリック(c(u"List付属書類"_qs));
+    f->画面.操作_クリック(c(u"btn_付属書類削除"_qs));
+    EXPECT_TRUE(基盤.開いた文書.isEmpty());
+    EXPECT_TRUE(基盤.表示済み.isEmpty());
+    c(u"List付属書類"_qs).ListIndex = 1;
+    f->画面.操作_ダブルクリック(c(u"List付属書類"_qs));
+    EXPECT_EQ(基盤.開いた文書,
+              QStringList{木.根() + u"/documents/紺碧帳_"_qs + 識別(No) + u"_002_b.txt"_qs});
+    c(u"List付属書類"_qs).ListIndex = 0;
+    f->画面.操作_クリック(c(u"btn_付属書類削除"_qs));
+    EXPECT_EQ(c(u"List付属書類"_qs).一覧, QStringList{u"b"_qs});
 }
 
 TEST_F(付属書類画面, 帳票は保存していない画面の伝票にも起動できる) {
