@@ -1,4 +1,5 @@
 #include <QFile>
+#include <QImage>
 #include <QProcess>
 
 #include "screen/frm紺碧帳.h"
@@ -62,6 +63,27 @@ TEST_P(帳票プログラム, PDF出力は本物の紺碧帳書を起こし待�
     EXPECT_EQ(画面基盤.待機合計, 1510);
     EXPECT_EQ(f.画面(u"List付属書類"_qs).一覧, QStringList{u"出金伝票_000_20260331_"_qs + No});
     EXPECT_TRUE(f.画面(u"btn_付属書類削除"_qs).Enabled);
+}
+
+TEST_P(帳票プログラム, プレビュは本物の紺碧帳書が一頁を窓に出し何も書かない) {
+    const QString No = 保存する(15);
+    const QString 先 = 木->プログラムフォルダ() + u"/紺碧帳書"_qs;
+    ASSERT_TRUE(QFile::copy(QStringLiteral(KONPEKI_REPORT_PROGRAM), 先));
+    const QString 写真 =
+        成果物(u"印刷プレビュー_"_qs + (GetParam() ? u"PostgreSQL"_qs : u"SQLite"_qs) + u".png"_qs);
+    QFile::remove(写真);
+    QProcess p;
+    auto env = QProcessEnvironment::systemEnvironment();
+    env.insert(u"KONPEKI_SCREENSHOT"_qs, 写真);
+    p.setProcessEnvironment(env);
+    p.start(先, {引数(u"1"_qs, No)});
+    ASSERT_TRUE(p.waitForFinished(60000));
+    EXPECT_EQ(p.exitCode(), 0);
+    const QImage 絵(写真);
+    ASSERT_FALSE(絵.isNull());
+    EXPECT_GT(絵.width(), 600);
+    EXPECT_TRUE(文書().isEmpty());
+    EXPECT_TRUE(付属書類().isEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(エンジン, 帳票プログラム, ::testing::Values(false, true),
