@@ -17,7 +17,12 @@ struct 計測用ツリー {
     QString 根() const { return 一時.path(); }
 };
 
+// A sample tree with N generated slips and masters in proportion, kept in the build folder
+// between runs; empty when it could not be made.
+QString 大量伝票の木(int 件数);
+
 void 起動時間計測();
+void 一覧計測();
 void データ層計測();
 void 伝票計測();
 void 入力画面計測();

@@ -37,3 +37,6 @@ CREATE TABLE M担当者 (
 );
 -- The PIN window finds the operator by user name
 CREATE INDEX M担当者_ログインID ON M担当者 (ログインID);
+-- The staff list's name and kana searches read in these orders
+CREATE INDEX M担当者_氏名 ON M担当者 (氏名);
+CREATE INDEX M担当者_カナ ON M担当者 (カナ);

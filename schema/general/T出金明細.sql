@@ -34,3 +34,5 @@ CREATE TABLE T出金明細 (
 CREATE INDEX T出金明細_伝票行順 ON T出金明細 (事業所コード, 番号基準日付, 出金No, 出金行No);
 -- The description list picks lines by period
 CREATE INDEX T出金明細_出金日付 ON T出金明細 (出金日付);
+-- The description list reads descriptions in order and checks the date from the index alone
+CREATE INDEX T出金明細_摘要 ON T出金明細 (摘要, 出金日付);

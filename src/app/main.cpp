@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "dataenv/ファイル操作.h"
+#include "lists/一覧画面集.h"
 #include "screen/frm紺碧帳.h"
 #include "screen/msg暗証番号確認.h"
 #include "slip/二重起動.h"
@@ -27,6 +28,8 @@ int main(int argc, char** argv) {
     基盤.画面登録(暗証確認.画面.名前, 暗証確認.画面);
     基盤.画面登録(モデル.印刷確認.画面.名前, モデル.印刷確認.画面);
     基盤.画面登録(モデル.お待ち.画面.名前, モデル.お待ち.画面);
+    一覧画面集 一覧群(セッション, モデル.画面);
+    for (const auto& w : 一覧群.全部()) 基盤.画面登録(w->画面.名前, w->画面);
     入力画面ウィンドウ 画面(モデル);
     紺碧帳起動 起動(セッション, 画面);
     // Every run, linked or by hand, takes its mark here and holds it to the end.

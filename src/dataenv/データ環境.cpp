@@ -1,5 +1,6 @@
 #include "dataenv/データ環境.h"
 
+#include "dataenv/Access環境設定.h"
 #include "dataenv/ファイル操作.h"
 #include "text/プラットフォーム.h"
 
@@ -27,10 +28,14 @@ short ファイル種別(const QString& フォルダ, const QString& 基本名, 
     return 0;
 }
 
+空レジストリ Access無しのレジストリ;
+
 }  // namespace
 
 データ環境::データ環境(プラットフォーム& 基盤_, QString プログラムID_)
-    : 基盤(基盤_), プログラムID(std::move(プログラムID_)) {}
+    : 基盤(基盤_),
+      プログラムID(std::move(プログラムID_)),
+      端末レジストリ(&Access無しのレジストリ) {}
 
 void データ環境::木を探す() {
     auto& e = 環境;
@@ -197,9 +202,15 @@ void データ環境::帳票DB準備(const QString& 帳票名, const QString& �
     if (追加複写) {
         ファイル複写(e.共通帳票フォルダ + u"/repfrmdb.db"_qs, e.帳票フォルダ + u"/repfrmdb.db"_qs);
     }
-    // The layouts read the data tables of the copy beside them by their file name, so no
-    // attached-table link has to be renewed here.
+    // Access, where there is one, is told to trust the private folder. The layouts of this build
+    // read the data tables of the copy beside them by its file name, so whatever the answer,
+    // the copies stay as they were copied and no attached-table link is renewed.
+    Access環境設定();
     基盤.お待ち表示(false);
+}
+
+bool データ環境::Access環境設定() {
+    return Access環境(*端末レジストリ, 基盤, 環境.帳票フォルダ).Access環境設定();
 }
 
 bool データ環境::DB_OPEN() {

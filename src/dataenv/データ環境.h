@@ -10,6 +10,7 @@
 #include "dataenv/記録集合.h"
 
 class プラットフォーム;
+class レジストリ;
 
 // The data side of the one session of a run: where the program stands, its two connections,
 // and the run history that traces them. A test makes a fresh one for each case.
@@ -35,6 +36,11 @@ class データ環境 {
     bool DB_CLOSEOPEN();
     // Closes both connections at the end of the run; errors are of no interest there.
     void 接続終了();
+    // Purges the short-lived rows of the configuration database; the menu program's start runs
+    // it, the slip program's never does.
+    void 環境情報整理();
+    // Prepares Access on this workstation for the reports of the user's report folder.
+    bool Access環境設定();
 
     bool 業務DB検索(記録集合& 結果, const QString& 文, bool 履歴 = false);
     bool 業務DB実行(const QString& 文, bool 履歴 = false);
@@ -59,6 +65,9 @@ class データ環境 {
     他業務連携情報 他業務連携;
     short 暗証番号要否 = 0;  // 暗証番号有無 in force: 1 asks PINs and enforces the rights
     const 暗証解読部品* 暗証解読 = &平文解読;
+    // The workstation's registry. This build's holds no key, so there is no Access to prepare;
+    // tests put in a registry with the keys a case needs.
+    レジストリ* 端末レジストリ;
 
     bool 基本項目読込();
     void 事業所情報読込();

@@ -40,6 +40,16 @@ QVariant 記録集合::値(const QString& 列名) const {
     return i < 0 ? QVariant() : 問合せ->value(i);
 }
 
+int 記録集合::列数() const {
+    if (!問合せ) return 0;
+    if (列一覧.isEmpty()) 列一覧 = 問合せ->record();
+    return 列一覧.count();
+}
+
+QVariant 記録集合::値(int 列) const {
+    return 当行あり && 列 >= 0 && 列 < 列数() ? 問合せ->value(列) : QVariant();
+}
+
 QString 記録集合::文字列(const QString& 列名) const {
     const QVariant v = 値(列名);
     return v.isNull() ? QString() : v.toString();

@@ -22,6 +22,9 @@ class 記録集合 {
     QVariant 値(const QString& 列名) const;
     bool Null(const QString& 列名) const { return 値(列名).isNull(); }
     bool 列あり(const QString& 列名) const { return 列番号(列名) >= 0; }
+    // The columns by place, for readers that take them in the order of the SELECT.
+    int 列数() const;
+    QVariant 値(int 列) const;
     // Null reads as "" and 0, the rule most readers of the suite follow.
     QString 文字列(const QString& 列名) const;
     // Numeric value of the column's text, as the suite reads numbers stored as text or number.

@@ -28,10 +28,8 @@ QString frm紺碧帳::付属書類識別ID() {
 }
 
 QString frm紺碧帳::選択中の付属書類() {
-    // The list holds the record's documents in SEQNo order, so its index finds the row.
-    const int i = 画面(u"List付属書類"_qs).ListIndex;
-    if (i < 0) return QString();
-    return 付属書類一覧(s.データ, 出金情報名, 付属書類識別ID()).value(i).Key;
+    const 部品& 一覧 = 画面(u"List付属書類"_qs);
+    return 一覧.選択 >= 0 && 一覧.選択 < 一覧.項目.size() ? 一覧.項目[一覧.選択].Key : QString();
 }
 
 void frm紺碧帳::付属書類ファイル追加() {
@@ -111,12 +109,12 @@ void frm紺碧帳::付属書類を開く(const QString& Key) {
 void frm紺碧帳::付属書類listint() {
     表示中([this] {
         部品& 一覧 = 画面(u"List付属書類"_qs);
-        一覧.一覧.clear();
-        一覧.ListIndex = -1;
+        一覧.列 = {{u"書類名"_qs, 4200}, {u"サイズ"_qs, 1600}, {u"更新日付"_qs, 1700}};
+        一覧.項目クリア();
         // The documents of the slip on screen, once it has a number.
         if (画面(u"出金No"_qs).Text.isEmpty()) return;
         for (const 付属書類行& 行 : 付属書類一覧(s.データ, 出金情報名, 付属書類識別ID())) {
-            一覧.一覧.append(行.タイトル);
+            一覧.項目追加({行.タイトル, 行.Key, {行.サイズ, 行.更新日付}});
         }
     });
     付属書類ボタン更新();

@@ -30,6 +30,7 @@ void 画面モデル::作る(const 部品表& 表) {
     p->名前 = QString::fromUtf16(定義.名前);
     p->種別 = 定義.種別;
     p->添字 = 添字;
+    p->所属 = this;
     p->Caption = QString::fromUtf16(定義.題);
     // A tab control's caption names its pages, one after another.
     if (定義.種別 == 部品種別::SSTab) p->一覧 = p->Caption.split(u'|');
@@ -153,6 +154,13 @@ void 画面モデル::値設定(部品& 先, int 値) {
     待ちを処理();
 }
 
+void 画面モデル::文字設定(部品& 先, const QString& 文字列) {
+    if (先.Text == 文字列) return;
+    先.Text = 文字列;
+    呼ぶ(先.Change);
+    待ちを処理();
+}
+
 void 画面モデル::操作_フォーカス(部品& 先) {
     待ち.enqueue(&先);
     待ちを処理();
@@ -210,6 +218,13 @@ void 画面モデル::操作_クリック(部品& 先) {
         先.Value = 先.Value ? 0 : 1;
         呼ぶ(先.Change);
     }
+    if (先.種別 == 部品種別::OptionButton) {
+        if (現在 != &先) return;
+        for (auto& p : 部品群) {
+            if (p->名前 == 先.名前 && p.get() != &先) p->Value = 0;
+        }
+        先.Value = 1;
+    }
     呼ぶ(先.Click);
     待ちを処理();
 }
@@ -221,9 +236,63 @@ void 画面モデル::操作_ダブルクリック(部品& 先) {
     待ちを処理();
 }
 
+namespace {
+
+// Where a navigation key takes the selection of a list view showing so many rows a page.
+int 移動先(const 部品& p, int キーコード) {
+    const int 最後 = static_cast<int>(p.項目.size()) - 1;
+    const int 頁 = 10;
+    const int 今 = p.選択;
+    switch (キーコード) {
+        case 38:  // up
+            return 今 < 0 ? 0 : qMax(0, 今 - 1);
+        case 40:  // down
+            return 今 < 0 ? 0 : qMin(最後, 今 + 1);
+        case 33:  // page up
+            return qMax(0, 今 - 頁);
+        case 34:  // page down
+            return 今 < 0 ? qMin(最後, 頁) : qMin(最後, 今 + 頁);
+        case 36:  // home
+            return 0;
+        case 35:  // end
+            return 最後;
+        default:
+            return 今;
+    }
+}
+
+}  // namespace
+
 void 画面モデル::操作_キー(部品& 先, int キーコード) {
     if (現在 != &先) 操作_フォーカス(先);
-    if (先.KeyDown) 呼ぶ([&] { 先.KeyDown(キーコード); });
+    bool 済 = false;
+    if (KeyPreview) 呼ぶ([&] { 済 = KeyPreview(キーコード); });
+    if (!済 && 先.KeyDown) 呼ぶ([&] { 先.KeyDown(キーコード); });
+    if (!済 && 先.種別 == 部品種別::ListView && 現在 == &先 && !先.項目.isEmpty()) {
+        先.選択 = 移動先(先, キーコード);
+    }
+    待ちを処理();
+}
+
+void 画面モデル::操作_項目選択(部品& 先, int 行) {
+    if (!先.Enabled || !見えるか(先)) return;
+    if (現在 != &先 && 焦点可(先)) 操作_フォーカス(先);
+    if (現在 != &先 || 行 < 0 || 行 >= 先.項目.size()) return;
+    先.選択 = 行;
+    呼ぶ(先.Click);
+    待ちを処理();
+}
+
+void 画面モデル::操作_項目ダブルクリック(部品& 先, int 行) {
+    操作_項目選択(先, 行);
+    if (現在 != &先 || 先.選択 != 行) return;
+    呼ぶ(先.DblClick);
+    待ちを処理();
+}
+
+void 画面モデル::操作_列クリック(部品& 先, int 列番号) {
+    if (!先.Enabled || !見えるか(先) || 列番号 < 0 || 列番号 >= 先.列.size()) return;
+    if (先.ColumnClick) 呼ぶ([&] { 先.ColumnClick(列番号 + 1); });
     待ちを処理();
 }
 

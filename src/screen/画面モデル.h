@@ -55,6 +55,8 @@ class 画面モデル {
     // A value set by code: a scroll bar's stays within Min..Max, and its change event runs
     // only when the value moved.
     void 値設定(部品& 先, int 値);
+    // A text set by code: the change event runs when the text is another, as typing runs it.
+    void 文字設定(部品& 先, const QString& 文字列);
 
     // What an operator does. Each runs its events and then every focus move they queued.
     void 操作_フォーカス(部品& 先);                   // click into a field or tab to it
@@ -65,7 +67,14 @@ class 画面モデル {
     // only if the focus stayed on it.
     void 操作_クリック(部品& 先);
     void 操作_ダブルクリック(部品& 先);
+    // A key goes to the window first (KeyPreview), then to the control. In a list view the
+    // arrow, page, Home and End keys move the selected row once the control has seen them.
     void 操作_キー(部品& 先, int キーコード);
+    // A row of a list view clicked (the list takes the focus and the row is selected), double
+    // clicked (then the list's double click runs), or a column heading clicked.
+    void 操作_項目選択(部品& 先, int 行);
+    void 操作_項目ダブルクリック(部品& 先, int 行);
+    void 操作_列クリック(部品& 先, int 列番号);
     // A scroll bar moved, a tab page or a list entry chosen. The control takes the focus first;
     // a list takes the choice only if the focus stayed on it.
     void 操作_値変更(部品& 先, int 値);
@@ -74,6 +83,8 @@ class 画面モデル {
     // the operation is abandoned there and the screen goes on. Without a handler the error
     // passes to the caller.
     std::function<void(const std::exception&)> 異常時;
+    // The window's own look at every key before its control; true when it dealt with the key.
+    std::function<bool(int)> KeyPreview;
 
     // The next or previous control in tab order that can take the focus and is a tab stop.
     部品* 次のタブ(const 部品* 起点, bool 逆) const;

@@ -1,12 +1,13 @@
 #include "screen/部品.h"
 
 #include <QRegularExpression>
+#include <algorithm>
 
 QString 種別名(部品種別 種別) {
     static const char16_t* const 名前[] = {
-        u"xField",    u"xNum",       u"xText",        u"xLabel",   u"xPass",
-        u"SSCommand", u"SSPanel",    u"SSTab",        u"ListView", u"ComboBox",
-        u"CheckBox",  u"VScrollBar", u"CommonDialog",
+        u"xField",    u"xNum",       u"xText",        u"xLabel",       u"xPass",
+        u"SSCommand", u"SSPanel",    u"SSTab",        u"ListView",     u"ComboBox",
+        u"CheckBox",  u"VScrollBar", u"CommonDialog", u"OptionButton",
     };
     return QString::fromUtf16(名前[static_cast<int>(種別)]);
 }
@@ -30,4 +31,44 @@ bool 部品::入力可(const QString& 文字列) const {
         if (数 && (値 > Max || 値 < Min)) return false;
     }
     return true;
+}
+
+void 部品::項目クリア() {
+    項目.clear();
+    選択 = -1;
+    ++項目版;
+}
+
+QString 部品::セル(int 行, int 列番号) const {
+    if (行 < 0 || 行 >= 項目.size()) return {};
+    const 一覧項目& r = 項目.at(行);
+    return 列番号 == 0 ? r.Text : r.SubItems.value(列番号 - 1);
+}
+
+void 部品::項目追加(一覧項目 新) {
+    項目.append(std::move(新));
+    if (項目.size() == 1) 選択 = 0;
+    ++項目版;
+}
+
+void 部品::並べ替え() {
+    if (項目.isEmpty()) return;
+    const QString 選択鍵 = 選択 >= 0 ? 項目.at(選択).Key : QString();
+    QList<int> 順(項目.size());
+    for (int i = 0; i < 順.size(); ++i) 順[i] = i;
+    std::stable_sort(順.begin(), 順.end(), [this](int a, int b) {
+        const int c = QString::compare(セル(a, SortKey), セル(b, SortKey), Qt::CaseInsensitive);
+        return 降順 ? c > 0 : c < 0;
+    });
+    QList<一覧項目> 並び;
+    並び.reserve(順.size());
+    for (int i : 順) 並び.append(項目.at(i));
+    項目 = std::move(並び);
+    if (選択 >= 0) {
+        選択 = -1;
+        for (int i = 0; i < 項目.size() && 選択 < 0; ++i) {
+            if (項目.at(i).Key == 選択鍵) 選択 = i;
+        }
+    }
+    ++項目版;
 }

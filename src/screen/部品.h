@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <functional>
 
+class 画面モデル;
+
 // The classes of control a screen is made of; their names are what the focus walk tests.
 enum class 部品種別 {
     xField,
@@ -19,6 +21,7 @@ enum class 部品種別 {
     CheckBox,
     VScrollBar,
     CommonDialog,
+    OptionButton,  // one of a group: choosing it turns the others of its array off
 };
 
 QString 種別名(部品種別 種別);
@@ -57,6 +60,20 @@ struct 部品定義 {
     const char16_t* 結び = u"";  // a title panel: the item a click on it stands for
 };
 
+// A column of a list view in report mode: its heading and width in twips.
+struct 一覧列 {
+    QString 見出し;
+    int 幅 = 0;
+};
+
+// One row of a list view: the first column's text, the key that finds the row, and the further
+// columns; an empty sub-item is an empty cell.
+struct 一覧項目 {
+    QString Text;
+    QString Key;
+    QStringList SubItems;
+};
+
 // One control of a screen model: the row of the table it was made from, and the properties the
 // logic reads and writes while the window is up.
 struct 部品 {
@@ -64,7 +81,8 @@ struct 部品 {
     QString 名前;
     int 添字 = -1;  // position in a control array (the visible row), -1 for a single control
     部品種別 種別 = 部品種別::xField;
-    部品* 親 = nullptr;  // the container, resolved when the screen is built
+    部品* 親 = nullptr;          // the container, resolved when the screen is built
+    画面モデル* 所属 = nullptr;  // the screen it stands on
 
     QString Text;
     QString Caption;
@@ -81,6 +99,22 @@ struct 部品 {
     QStringList 一覧;  // ComboBox items
     int ListIndex = -1;
 
+    // A list view's columns and rows, its selected row (-1: none) and its own sort on cell text.
+    QList<一覧列> 列;
+    QList<一覧項目> 項目;
+    int 選択 = -1;
+    int SortKey = 0;  // column counted from 0
+    bool 降順 = false;
+    bool Sorted = false;
+    int 項目版 = 0;  // counts every change of the rows, so that a window redraws only then
+    void 項目クリア();
+    // Adds a row at the end; the first row into an empty list becomes the selected one, as the
+    // platform's list view does. While sorting is on, the filler sorts once it has added all.
+    void 項目追加(一覧項目 項目);
+    // Sorts the rows by the text of column SortKey; the selected row stays selected.
+    void 並べ替え();
+    QString セル(int 行, int 列番号) const;
+
     // Events; each model routine sets those it handles.
     std::function<void()> GotFocus;
     std::function<void()> LostFocus;
@@ -88,6 +122,7 @@ struct 部品 {
     std::function<void()> DblClick;
     std::function<void()> Change;
     std::function<void(int)> KeyDown;
+    std::function<void(int)> ColumnClick;  // a list view's heading, counted from 1
 
     // A class of control that can hold the focus at all; labels and panels never do.
     bool 焦点を持てる種別() const;

@@ -93,9 +93,8 @@ extern const QString 出金見出し結合;
 // the screen. A test makes a fresh one for each case.
 class 出金セッション {
   public:
-    // The report program reads slips through a session of its own program ID.
-    explicit 出金セッション(プラットフォーム& 基盤, const QString& プログラムID = u"紺碧帳"_qs)
-        : データ(基盤, プログラムID) {}
+    explicit 出金セッション(プラットフォーム& 基盤, QString プログラムID = u"紺碧帳"_qs)
+        : データ(基盤, std::move(プログラムID)) {}
 
     データ環境 データ;
     出金見出し 見出し;

@@ -72,6 +72,8 @@ bool 紺碧帳起動::データベース開始() {
     データ環境& d = s.データ;
     if (!d.SYB_OPEN()) return false;
     d.開始履歴書込();
+    // Only the suite's menu program keeps the configuration database's tables short.
+    if (d.プログラムID == u"翠嶺") d.環境情報整理();
     return d.DB_OPEN();
 }
 

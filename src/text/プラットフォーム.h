@@ -38,12 +38,16 @@ class プラットフォーム {
     // Holds the program for so many milliseconds.
     virtual void 待機(int ミリ秒) = 0;
     // Another window of the program by its name (a list window, a dialogue), modal or not, and
-    // the enabling of a window as a whole. Showing runs the window's load event first; a modal
-    // show returns once the window has closed itself (画面終了) or was closed by its frame.
+    // the enabling of a window as a whole. Showing a window that is not loaded runs its load
+    // event first; a hidden one comes back as it was left. A modal show returns once the window
+    // has unloaded or hidden itself, or was closed by its frame.
     virtual void 画面表示(const QString& 画面名, bool モーダル) = 0;
     virtual void 画面使用可否(const QString& 画面名, bool 可) = 0;
     // A window unloads itself: the modal show that brought it up returns.
     virtual void 画面終了(const QString& 画面名) = 0;
+    // A window hides itself and stays loaded: the modal show returns, and the next show runs no
+    // load.
+    virtual void 画面隠す(const QString& 画面名) = 0;
 
     // The load event of a window and what closing it by its frame does before it unloads, by
     // the window's name; each screen registers its own, and both implementations run them.

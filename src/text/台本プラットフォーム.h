@@ -49,20 +49,30 @@ class 台本プラットフォーム : public プラットフォーム {
     }
     int 待機合計 = 0;
     void お待ち表示(bool 表示) override { お待ち履歴.append(表示); }
-    // A show runs the window's load, then the test's operator; a modal window still up after
-    // that is closed as its frame would close it.
+    // A show runs the window's load unless it is hidden, then the test's operator; a modal
+    // window still up after that is closed as its frame would close it.
     void 画面表示(const QString& 画面名, bool モーダル) override {
         表示画面.append({画面名, モーダル});
-        読込実行(画面名);
-        if (画面表示時) 画面表示時(画面名);
+        if (!読込済み.contains(画面名)) {
+            読込済み.append(画面名);
+            読込実行(画面名);
+        }
+        if (画面表示時 && !終了画面.contains(画面名)) 画面表示時(画面名);
         if (モーダル && !終了画面.contains(画面名)) 枠で閉じる(画面名);
         終了画面.removeAll(画面名);
     }
     void 画面終了(const QString& 画面名) override {
         終了画面.append(画面名);
         閉じた画面.append(画面名);
+        読込済み.removeAll(画面名);
+    }
+    void 画面隠す(const QString& 画面名) override {
+        終了画面.append(画面名);
+        隠した画面.append(画面名);
     }
     QStringList 閉じた画面;  // every unload, in order
+    QStringList 隠した画面;  // every hide, in order
+    QStringList 読込済み;    // the windows loaded now, shown or hidden
 
     void 画面使用可否(const QString& 画面名, bool 可) override { 使用可否.append({画面名, 可}); }
     void 最前面表示() override { ++最前面回数; }
@@ -78,6 +88,7 @@ class 台本プラットフォーム : public プラットフォーム {
     void 枠で閉じる(const QString& 画面名) {
         枠閉じ実行(画面名);
         閉じた画面.append(画面名);
+        読込済み.removeAll(画面名);
     }
     QStringList 終了画面;
 };

@@ -134,6 +134,20 @@ QString Qtプラットフォーム::フォルダ選択(const QString& 題名, co
     return QFileDialog::getExistingDirectory(QApplication::activeWindow(), 題名, 開始フォルダ);
 }
 
+QWidget* Qtプラットフォーム::窓を作る(const QString& 画面名, 画面モデル& m) {
+    // A window of its own; a parent would take the dialogue down with it.
+    auto* 窓 = new ScreenWindow(m);
+    窓->setWindowFlag(Qt::Dialog);
+    窓->setAttribute(Qt::WA_DeleteOnClose);
+    // A close by the frame runs the window's own answer to it, then unloads it.
+    窓->閉じる時 = [this, 画面名] {
+        if (!開いている.contains(画面名)) return;
+        枠閉じ実行(画面名);
+        画面終了(画面名);
+    };
+    return 窓;
+}
+
 void Qtプラットフォーム::画面表示(const QString& 画面名, bool モーダル) {
     画面モデル* m = 画面群.value(画面名);
     if (!m) {
@@ -141,29 +155,22 @@ void Qtプラットフォーム::画面表示(const QString& 画面名, bool モ
         メッセージ(画面名 + u" は準備中です。"_qs);
         return;
     }
-    // A window may unload itself in its own load: then nothing is shown.
-    開いている[画面名] = {};
-    読込実行(画面名);
-    if (!開いている.contains(画面名)) return;
-    // A window of its own, placed over the window that was active; a parent would take the
-    // dialogue down with it.
     QWidget* 上 = QApplication::activeWindow();
-    auto* 窓 = new ScreenWindow(*m);
-    窓->setWindowFlag(Qt::Dialog);
-    if (上) 窓->move(上->geometry().center() - 窓->rect().center());
-    窓->setAttribute(Qt::WA_DeleteOnClose);
-    if (モーダル) 窓->setWindowModality(Qt::ApplicationModal);
-    // A close by the frame runs the window's own answer to it, then unloads it.
-    窓->閉じる時 = [this, 画面名] {
+    QPointer<QWidget> 窓 = 隠れている.take(画面名);
+    if (!窓) {
+        // A window may unload itself in its own load: then nothing is shown.
+        開いている[画面名] = {};
+        読込実行(画面名);
         if (!開いている.contains(画面名)) return;
-        枠閉じ実行(画面名);
-        画面終了(画面名);
-    };
+        窓 = 窓を作る(画面名, *m);
+        if (上) 窓->move(上->geometry().center() - 窓->rect().center());
+    }
+    窓->setWindowModality(モーダル ? Qt::ApplicationModal : Qt::NonModal);
     開いている[画面名] = {窓, nullptr};
     窓->show();
     窓->raise();
     窓->activateWindow();
-    窓->反映();
+    static_cast<ScreenWindow*>(窓.data())->反映();
     if (!モーダル) return;
     QEventLoop 待ち;
     開いている[画面名].待ち = &待ち;
@@ -173,6 +180,16 @@ void Qtプラットフォーム::画面表示(const QString& 画面名, bool モ
 void Qtプラットフォーム::画面終了(const QString& 画面名) {
     const 開いた画面 開 = 開いている.take(画面名);
     if (開.窓) 開.窓->close();
+    if (開.待ち) 開.待ち->quit();
+    if (const QPointer<QWidget> 隠 = 隠れている.take(画面名)) 隠->close();
+}
+
+void Qtプラットフォーム::画面隠す(const QString& 画面名) {
+    const 開いた画面 開 = 開いている.take(画面名);
+    if (開.窓) {
+        開.窓->hide();
+        隠れている[画面名] = 開.窓;
+    }
     if (開.待ち) 開.待ち->quit();
 }
 

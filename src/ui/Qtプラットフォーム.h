@@ -20,6 +20,7 @@ class Qtプラットフォーム : public プラットフォーム {
     void 画面表示(const QString& 画面名, bool モーダル) override;
     void 画面使用可否(const QString& 画面名, bool 可) override;
     void 画面終了(const QString& 画面名) override;
+    void 画面隠す(const QString& 画面名) override;
     // A window the program shows by name, drawn from its model.
     void 画面登録(const QString& 画面名, 画面モデル& モデル) { 画面群[画面名] = &モデル; }
     void 最前面表示() override;
@@ -32,11 +33,13 @@ class Qtプラットフォーム : public プラットフォーム {
     QString 既定の題名 = u"紺碧帳"_qs;
 
   private:
+    QWidget* 窓を作る(const QString& 画面名, 画面モデル& m);
     struct 開いた画面 {
         QPointer<QWidget> 窓;
         QPointer<QEventLoop> 待ち;
     };
     QHash<QString, 画面モデル*> 画面群;
     QHash<QString, 開いた画面> 開いている;
+    QHash<QString, QPointer<QWidget>> 隠れている;  // loaded and hidden, kept as they were left
     QPointer<QWidget> お待ち画面;
 };

@@ -4,10 +4,13 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTreeWidget>
@@ -59,18 +62,66 @@ QWidget* 作成(部品& p, QWidget* 親) {
             return new QPushButton(親);
         case 部品種別::SSTab:
             return new QTabBar(親);
-        case 部品種別::ListView:
-            return new QTreeWidget(親);
+        case 部品種別::ListView: {
+            // Rows are drawn in the model's order; the model sorts, never the widget.
+            auto* t = new QTreeWidget(親);
+            t->setRootIsDecorated(false);
+            t->setUniformRowHeights(true);
+            t->setSortingEnabled(false);
+            t->setSelectionMode(QAbstractItemView::SingleSelection);
+            t->header()->setSectionsClickable(true);
+            t->header()->setStretchLastSection(false);
+            return t;
+        }
         case 部品種別::ComboBox:
             return new QComboBox(親);
         case 部品種別::CheckBox:
             return new QCheckBox(親);
+        case 部品種別::OptionButton: {
+            // The group is the model's: the widget never turns its siblings off by itself.
+            auto* r = new QRadioButton(親);
+            r->setAutoExclusive(false);
+            return r;
+        }
         case 部品種別::VScrollBar:
             return new QScrollBar(Qt::Vertical, 親);
         case 部品種別::CommonDialog:
             break;
     }
     return nullptr;
+}
+
+// The key codes the model knows: Ctrl anywhere, Esc for the window, and in a list view Enter and
+// the keys that move its selection. 0 for every other key.
+int 仮想キー(int キー, 部品種別 種別) {
+    switch (キー) {
+        case Qt::Key_Control:
+            return 17;
+        case Qt::Key_Escape:
+            return 27;
+        default:
+            break;
+    }
+    if (種別 != 部品種別::ListView) return 0;
+    switch (キー) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            return 13;
+        case Qt::Key_PageUp:
+            return 33;
+        case Qt::Key_PageDown:
+            return 34;
+        case Qt::Key_End:
+            return 35;
+        case Qt::Key_Home:
+            return 36;
+        case Qt::Key_Up:
+            return 38;
+        case Qt::Key_Down:
+            return 40;
+        default:
+            return 0;
+    }
 }
 
 }  // namespace
@@ -102,15 +153,21 @@ void ScreenWindow::作る() {
         w->installEventFilter(this);
         対応.insert(p, w);
         逆引き.insert(w, p);
-        if (auto* b = qobject_cast<QPushButton*>(w)) {
+        if (auto* e = qobject_cast<QLineEdit*>(w)) {
+            // Every edit is the field's change, as each typed key is.
+            QObject::connect(e, &QLineEdit::textEdited, this, [this, p](const QString& 文字列) {
+                if (!同期中) 操作([this, p, 文字列] { m.文字設定(*p, 文字列); });
+            });
+        } else if (auto* b = qobject_cast<QPushButton*>(w)) {
             b->setAutoDefault(false);
             QObject::connect(b, &QPushButton::clicked, this,
                              [this, p] { 操作([this, p] { m.操作_クリック(*p); }); });
         } else if (auto* c = qobject_cast<QComboBox*>(w)) {
             QObject::connect(c, &QComboBox::activated, this,
                              [this, p](int i) { 操作([this, p, i] { m.操作_値変更(*p, i); }); });
-        } else if (auto* k = qobject_cast<QCheckBox*>(w)) {
-            QObject::connect(k, &QCheckBox::clicked, this,
+        } else if (auto* k = qobject_cast<QAbstractButton*>(w)) {
+            // Check boxes and option buttons: the model turns them.
+            QObject::connect(k, &QAbstractButton::clicked, this,
                              [this, p] { 操作([this, p] { m.操作_クリック(*p); }); });
         } else if (auto* s = qobject_cast<QScrollBar*>(w)) {
             QObject::connect(s, &QScrollBar::valueChanged, this, [this, p](int 値) {
@@ -120,8 +177,43 @@ void ScreenWindow::作る() {
             QObject::connect(t, &QTabBar::currentChanged, this, [this, p](int 値) {
                 if (!同期中) 操作([this, p, 値] { m.操作_値変更(*p, 値); });
             });
+        } else if (auto* v = qobject_cast<QTreeWidget*>(w)) {
+            // Presses on the rows land on the viewport; they belong to the list all the same.
+            v->viewport()->installEventFilter(this);
+            逆引き.insert(v->viewport(), p);
+            QObject::connect(v->header(), &QHeaderView::sectionClicked, this, [this, p](int 列) {
+                if (!同期中) 操作([this, p, 列] { m.操作_列クリック(*p, 列); });
+            });
         }
     }
+}
+
+void ScreenWindow::行を描く(const 部品& p, QTreeWidget* t) {
+    QStringList 見出し;
+    for (const 一覧列& c : p.列) 見出し << c.見出し;
+    QStringList 今の見出し;
+    for (int i = 0; i < t->columnCount(); ++i) 今の見出し << t->headerItem()->text(i);
+    if (今の見出し != 見出し) {
+        t->setColumnCount(static_cast<int>(p.列.size()));
+        t->setHeaderLabels(見出し);
+        for (int i = 0; i < p.列.size(); ++i) t->setColumnWidth(i, 画素(p.列.at(i).幅));
+    }
+    if (描いた版.value(&p, -1) != p.項目版) {
+        描いた版[&p] = p.項目版;
+        t->clear();
+        QList<QTreeWidgetItem*> 行;
+        行.reserve(p.項目.size());
+        for (int r = 0; r < p.項目.size(); ++r) {
+            auto* i = new QTreeWidgetItem;
+            for (int c = 0; c < p.列.size(); ++c) i->setText(c, p.セル(r, c));
+            行.append(i);
+        }
+        t->addTopLevelItems(行);
+    }
+    QTreeWidgetItem* 選 = t->topLevelItem(p.選択);
+    if (t->currentItem() != 選) t->setCurrentItem(選);
+    if (!選) t->clearSelection();
+    if (選) t->scrollToItem(選);
 }
 
 void ScreenWindow::色を合わせる(const 部品& p, QWidget* w, QPalette::ColorRole 役) {
@@ -158,7 +250,7 @@ void ScreenWindow::反映() {
                 c->addItems(p.一覧);
             }
             c->setCurrentIndex(p.ListIndex);
-        } else if (auto* k = qobject_cast<QCheckBox*>(w)) {
+        } else if (auto* k = qobject_cast<QAbstractButton*>(w)) {
             k->setText(p.Caption);
             k->setChecked(p.Value != 0);
         } else if (auto* s = qobject_cast<QScrollBar*>(w)) {
@@ -168,6 +260,8 @@ void ScreenWindow::反映() {
         } else if (auto* t = qobject_cast<QTabBar*>(w)) {
             while (t->count() < p.一覧.size()) t->addTab(p.一覧.at(t->count()));
             t->setCurrentIndex(p.Value);
+        } else if (auto* v = qobject_cast<QTreeWidget*>(w)) {
+            行を描く(p, v);
         }
     }
     if (部品* f = m.フォーカス()) {
@@ -181,7 +275,7 @@ void ScreenWindow::反映() {
 void ScreenWindow::入力を渡す() {
     部品* f = m.フォーカス();
     if (!f) return;
-    if (auto* e = qobject_cast<QLineEdit*>(対応.value(f))) f->Text = e->text();
+    if (auto* e = qobject_cast<QLineEdit*>(対応.value(f))) m.文字設定(*f, e->text());
 }
 
 void ScreenWindow::操作(const std::function<void()>& 動作) {
@@ -206,12 +300,30 @@ bool ScreenWindow::eventFilter(QObject* 対象, QEvent* 事象) {
                 操作([this, 逆] { 逆 ? m.操作_ShiftTab() : m.操作_Tab(); });
                 return true;
             }
-            if (k->key() == Qt::Key_Control) 操作([this, p] { m.操作_キー(*p, 17); });
+            if (const int 符号 = 仮想キー(k->key(), p->種別); 符号 != 0) {
+                操作([this, p, 符号] { m.操作_キー(*p, 符号); });
+                return 符号 != 17;
+            }
             break;
         }
         case QEvent::MouseButtonPress:
-            return 押下(*p, w);
         case QEvent::MouseButtonDblClick:
+            if (auto* v = qobject_cast<QTreeWidget*>(w->parentWidget()); v && v->viewport() == w) {
+                const int 行 =
+                    v->indexAt(static_cast<QMouseEvent*>(事象)->position().toPoint()).row();
+                const bool 二度 = 事象->type() == QEvent::MouseButtonDblClick;
+                操作([this, p, 行, 二度] {
+                    if (行 < 0) {
+                        m.操作_フォーカス(*p);
+                    } else if (二度) {
+                        m.操作_項目ダブルクリック(*p, 行);
+                    } else {
+                        m.操作_項目選択(*p, 行);
+                    }
+                });
+                return true;
+            }
+            if (事象->type() == QEvent::MouseButtonPress) return 押下(*p, w);
             操作([this, p] { m.操作_ダブルクリック(*p); });
             break;
         case QEvent::Wheel:
@@ -228,6 +340,7 @@ bool ScreenWindow::押下(部品& p, QWidget* w) {
     switch (p.種別) {
         case 部品種別::SSCommand:
         case 部品種別::CheckBox:
+        case 部品種別::OptionButton:
         case 部品種別::VScrollBar:
         case 部品種別::SSTab:
             return false;  // their click, value or page reaches the model when it is complete

@@ -6,6 +6,8 @@
 
 #include "screen/画面モデル.h"
 
+class QTreeWidget;
+
 // Draws a screen model with Qt widgets, one widget per control at the control's place, and hands
 // what the operator does to the model. The model decides: after each operation every widget is
 // brought in step with it, the focus included.
@@ -36,9 +38,12 @@ class ScreenWindow : public QWidget {
     void 色を合わせる(const 部品& p, QWidget* w, QPalette::ColorRole 役);
     // A mouse press on a control's widget; true when the press must go no further.
     bool 押下(部品& p, QWidget* w);
+    // A list view's headings and rows, redrawn only when the model's rows changed.
+    void 行を描く(const 部品& p, QTreeWidget* t);
 
     画面モデル& m;
     QHash<const 部品*, QWidget*> 対応;
     QHash<QWidget*, 部品*> 逆引き;
+    QHash<const 部品*, int> 描いた版;
     bool 同期中 = false;
 };

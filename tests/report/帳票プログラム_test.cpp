@@ -61,7 +61,11 @@ TEST_P(帳票プログラム, PDF出力は本物の紺碧帳書を起こし待�
     EXPECT_EQ(行[0][3].toString(), PDF);
     // The list read again after the wait shows the PDF, and it can be removed.
     EXPECT_EQ(画面基盤.待機合計, 1510);
-    EXPECT_EQ(f.画面(u"List付属書類"_qs).一覧, QStringList{u"出金伝票_000_20260331_"_qs + No});
+    const auto& 項目 = f.画面(u"List付属書類"_qs).項目;
+    ASSERT_EQ(項目.size(), 1);
+    EXPECT_EQ(項目[0].Text, u"出金伝票_000_20260331_"_qs + No);
+    EXPECT_EQ(項目[0].Key, u"C00020260331"_qs + No + u"001"_qs);
+    EXPECT_TRUE(項目[0].SubItems.value(0).endsWith(u"KB"_qs));
     EXPECT_TRUE(f.画面(u"btn_付属書類削除"_qs).Enabled);
 }
 

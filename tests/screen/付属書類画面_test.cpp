@@ -41,6 +41,13 @@ class 付属書類画面 : public 入力画面試験 {
     QString 識別(const QString& No) const { return u"00020260331"_qs + No; }
     int 行数() { return 木.業務DB行(u"SELECT COUNT(*) FROM M付属書類"_qs)[0][0].toInt(); }
     bool 釦(const QString& 名) { return c(名).Enabled; }
+    // The list's rows, each as its three cells.
+    QStringList 一覧() {
+        QStringList r;
+        for (const auto& i : c(u"List付属書類"_qs).項目)
+            r << i.Text + u"|"_qs + i.SubItems.join(u'|');
+        return r;
+    }
     QString 手元;
 };
 
@@ -72,7 +79,14 @@ TEST_F(付属書類画面, 保存した伝票では追加が使え削除は書�
     EXPECT_EQ(行[0][3].toString(), u"20251120"_qs);
     EXPECT_EQ(行[0][4].toString(), u"00003"_qs);
     EXPECT_TRUE(釦(u"btn_付属書類削除"_qs));
-    EXPECT_EQ(c(u"List付属書類"_qs).一覧, QStringList{u"領収書"_qs});
+    const QString 今日 = QDate::currentDate().toString(u"yyyy/MM/dd"_qs);
+    EXPECT_EQ(一覧(), QStringList{u"領収書|0KB|"_qs + 今日});
+    const 部品& L = c(u"List付属書類"_qs);
+    ASSERT_EQ(L.列.size(), 3);
+    EXPECT_EQ(L.列[0].見出し, u"書類名"_qs);
+    EXPECT_EQ(L.列[1].見出し, u"サイズ"_qs);
+    EXPECT_EQ(L.列[2].見出し, u"更新日付"_qs);
+    EXPECT_EQ(L.項目[0].Key, u"C"_qs + 識別(No) + u"001"_qs);
 }
 
 TEST_F(付属書類画面, ファイル選択の取消は何も足さず元のフォルダに戻す) {
@@ -122,7 +136,7 @@ TEST_F(付属書類画面, 削除は選んだ項目が無ければ何もせず�
     EXPECT_FALSE(QFile::exists(写し));
     EXPECT_TRUE(c(u"お知らせ"_qs).Caption.isEmpty());
     EXPECT_FALSE(釦(u"btn_付属書類削除"_qs));
-    EXPECT_TRUE(c(u"List付属書類"_qs).一覧.isEmpty());
+    EXPECT_TRUE(一覧().isEmpty());
 }
 
 TEST_F(付属書類画面, 開くのは写しで手で消された写しでも何も言わない) {
@@ -146,19 +160,22 @@ TEST_F(付属書類画面, 釦と二度押しは一覧で選んだ書類に働�
     f->画面.操作_クリック(c(u"btn_付属書類追加"_qs));
     基盤.選択回答.enqueue(置く(u"b.txt"_qs));
     f->画面.操作_クリック(c(u"btn_付属書類追加"_qs));
-    ASSERT_EQ(c(u"List付属書類"_qs).一覧, (QStringList{u"a"_qs, u"b"_qs}));
+    ASSERT_EQ(一覧().size(), 2);
+    EXPECT_EQ(c(u"List付属書類"_qs).選択, 0);  // the first row comes selected
     // Nothing selected: neither opens nor asks.
+    c(u"List付属書類"_qs).選択 = -1;
     f->画面.操作_ダブルクリック(c(u"List付属書類"_qs));
     f->画面.操作_クリック(c(u"btn_付属書類削除"_qs));
     EXPECT_TRUE(基盤.開いた文書.isEmpty());
     EXPECT_TRUE(基盤.表示済み.isEmpty());
-    c(u"List付属書類"_qs).ListIndex = 1;
+    c(u"List付属書類"_qs).選択 = 1;
     f->画面.操作_ダブルクリック(c(u"List付属書類"_qs));
     EXPECT_EQ(基盤.開いた文書,
               QStringList{木.根() + u"/documents/紺碧帳_"_qs + 識別(No) + u"_002_b.txt"_qs});
-    c(u"List付属書類"_qs).ListIndex = 0;
+    c(u"List付属書類"_qs).選択 = 0;
     f->画面.操作_クリック(c(u"btn_付属書類削除"_qs));
-    EXPECT_EQ(c(u"List付属書類"_qs).一覧, QStringList{u"b"_qs});
+    ASSERT_EQ(一覧().size(), 1);
+    EXPECT_TRUE(一覧()[0].startsWith(u"b|"_qs));
 }
 
 TEST_F(付属書類画面, 帳票は保存していない画面の伝票にも起動できる) {

@@ -1,0 +1,129 @@
+#include "lists/wnd担当者一覧.h"
+
+#include "dataenv/データ環境.h"
+#include "slip/出金セッション.h"
+#include "text/項目編集.h"
+
+namespace {
+
+constexpr 句定義 コード句{u"コード", u" AND M担当者.コード >= '", u" AND M担当者.コード < '", u"'"};
+constexpr 句定義 名称句{u"名称", u" AND M担当者.氏名 LIKE '%", u" AND M担当者.氏名 NOT LIKE '%",
+                        u"%'", true};
+constexpr 句定義 カナ句{u"カナ", u" AND M担当者.カナ LIKE '%", u" AND M担当者.カナ NOT LIKE '%",
+                        u"%'", true};
+constexpr 句定義 部門句{u"部門コード", u" AND M担当者.部門コード = '",
+                        u" AND M担当者.部門コード <> '", u"'"};
+constexpr 句定義 セクション句{u"セクションコード", u" AND M担当者.セクションコード = '",
+                              u" AND M担当者.セクションコード <> '", u"'"};
+
+}  // namespace
+
+wnd担当者一覧::wnd担当者一覧(出金セッション& セッション, 画面モデル& 主画面)
+    : 一覧画面(セッション, 主画面, u"wnd担当者一覧"_qs, 部品定義表, u"List担当者"_qs) {
+    画面.Caption = u"担当者一覧"_qs;
+    画面.Width = 10800;
+    const QString 部門名文 = u"SELECT 名称 FROM M部門 WHERE コード = '"_qs;
+    const QString セクション名文 = u"SELECT 名称 FROM Mセクション WHERE コード = '"_qs;
+    欄を結ぶ(
+        {
+            {u"コード"_qs, 条件欄種類::コード, ゼロ文字列(5), {}, {}, {}, u"btn_コード検索"_qs},
+            {u"カナ"_qs, 条件欄種類::文字, {}, {}, {}, {}, u"btn_カナ検索"_qs},
+            {u"名称"_qs, 条件欄種類::文字, {}, {}, {}, {}, u"btn_名称検索"_qs},
+            {u"部門コード"_qs, 条件欄種類::コード, ゼロ文字列(3), u"部門名"_qs, 部門名文,
+             u"名称"_qs, u"btn_部門コード検索"_qs, u"wnd部門一覧"_qs},
+            {u"部門名"_qs, 条件欄種類::名称},
+            {u"セクションコード"_qs, 条件欄種類::コード, ゼロ文字列(3), u"セクション名"_qs,
+             セクション名文, u"名称"_qs, u"btn_セクションコード検索"_qs, u"wndセクション一覧"_qs},
+            {u"セクション名"_qs, 条件欄種類::名称},
+        },
+        {
+            {u"在籍区分"_qs, u"在籍区分名称"_qs, u"SELECT * FROM K在籍区分 ORDER BY 区分"_qs},
+            {u"社員区分"_qs, u"社員区分名称"_qs, u"SELECT * FROM K社員区分 ORDER BY 区分"_qs},
+        });
+    検索ボタン(u"btn_コード検索"_qs, 1);
+    検索ボタン(u"btn_カナ検索"_qs, 2);
+    検索ボタン(u"btn_名称検索"_qs, 3);
+    検索ボタン(u"btn_部門コード検索"_qs, 4);
+    検索ボタン(u"btn_セクションコード検索"_qs, 5);
+    検索ボタン(u"btn_複合検索"_qs, 0);
+    検索ボタン(u"btn_否定検索"_qs, -1);
+}
+
+void wnd担当者一覧::読込() {
+    区分一覧作成();
+    // The list opens on the first status and on every class.
+    区分[u"在籍区分"_qs] = 0;
+    区分[u"社員区分"_qs] = 画面(u"社員区分"_qs).Max;
+    一覧初期条件展開();
+    列作成({{u"コード"_qs, 750},
+            {u"氏名"_qs, 2500},
+            {u"事業所"_qs, 2300},
+            {u"部門"_qs, 2300},
+            {u"セクション"_qs, 2300}});
+    初回検索();
+}
+
+void wnd担当者一覧::一覧初期条件展開() {
+    条件[u"コード"_qs] = 条件取出(u"M担当者.コード"_qs);
+    for (const QString& 名 : {u"部門コード"_qs, u"セクションコード"_qs}) {
+        const 条件欄& e = *欄(名);
+        const QString 値 = 条件取出(u"M担当者."_qs + 名);
+        条件[名] = 値;
+        条件[e.名称欄] = 値.isEmpty() ? QString() : 名称検索(e, 値);
+    }
+    条件[u"カナ"_qs].clear();
+    条件[u"名称"_qs].clear();
+}
+
+QString wnd担当者一覧::検索文作成() {
+    const QString 列 =
+        u"SELECT TOP 1000 M担当者.コード,M担当者.氏名,M事業所.名称 AS 事業所名,M部門.名称 AS 部門名,Mセクション.名称 AS セクション名"_qs;
+    検索文 q;
+    const QString db = 方言();
+    if (db == u"A" || db == u"S") {
+        q.文 =
+            列 +
+            u" FROM Mセクション RIGHT JOIN (M部門 RIGHT JOIN (M事業所 RIGHT JOIN M担当者 ON M事業所.コード = M担当者.事業所コード) ON M部門.コード = M担当者.部門コード) ON Mセクション.コード = M担当者.セクションコード"_qs;
+    } else if (db == u"O") {
+        q.文 =
+            列 + u" FROM Mセクション,M部門,M事業所,M担当者"_qs +
+            u" WHERE M事業所.コード(+) = M担当者.事業所コード AND M部門.コード(+) = M担当者.部門コード AND Mセクション.コード(+) = M担当者.セクションコード"_qs;
+        q.条件あり = true;
+    } else {
+        return {};
+    }
+    呼出条件句(q);
+    const QString 全社 = ゼロ文字列(3);
+    if (d.環境.運用事業所コード != 全社) {
+        q.加える(u" AND (M担当者.事業所コード = '"_qs + d.作業事業所コード +
+                 u"' OR M担当者.事業所コード = '"_qs + 全社 + u"')"_qs);
+    }
+    switch (検索種別) {
+        case 1:
+            欄句(q, コード句);
+            break;
+        case 2:
+            欄句(q, カナ句);
+            break;
+        case 3:
+            欄句(q, 名称句);
+            break;
+        case 4:
+            欄句(q, 部門句);
+            break;
+        case 5:
+            欄句(q, セクション句);
+            break;
+        default:
+            for (const 句定義* 句 : {&コード句, &名称句, &カナ句, &部門句, &セクション句}) {
+                欄句(q, *句);
+            }
+            break;
+    }
+    区分句(q, u"在籍区分"_qs, u" AND M担当者.在籍区分 = '"_qs, u" AND M担当者.在籍区分 <> '"_qs);
+    区分句(q, u"社員区分"_qs, u" AND M担当者.社員区分 = '"_qs, u" AND M担当者.社員区分 <> '"_qs);
+    const QString 順 = 検索種別 == 2   ? u"M担当者.カナ"_qs
+                       : 検索種別 == 3 ? u"M担当者.氏名"_qs
+                                       : u"M担当者.コード"_qs;
+    return q.文 + u" ORDER BY "_qs + 順;
+}

@@ -1,0 +1,306 @@
+#include "lists/一覧画面.h"
+
+#include "dataenv/データ環境.h"
+#include "screen/次項目補正.h"
+#include "slip/出金セッション.h"
+#include "text/プラットフォーム.h"
+#include "text/項目編集.h"
+
+一覧画面::一覧画面(出金セッション& s_, 画面モデル& 主画面, const QString& 名前, const 部品表& 表,
+                   const QString& 一覧名)
+    : 画面(名前), s(s_), d(s_.データ), 主(主画面), 一覧部品名(一覧名) {
+    画面.作る(表);
+    // Esc reaches the window before any control: it is the way back.
+    画面.KeyPreview = [this](int キー) {
+        if (キー != 27) return false;
+        戻る();
+        return true;
+    };
+    部品& L = 一覧();
+    L.DblClick = [this] { 選ぶ(); };
+    L.KeyDown = [this](int キー) {
+        if (キー == 13) 選ぶ();
+    };
+    L.ColumnClick = [this](int 列番号) { 列見出しクリック(列番号); };
+    画面(u"btn_戻る"_qs).Click = [this] { 戻る(); };
+    画面(u"btn_画面クリア"_qs).Click = [this] { 条件クリア(); };
+}
+
+部品& 一覧画面::一覧() {
+    return 画面(一覧部品名);
+}
+
+const 条件欄* 一覧画面::欄(const QString& 名前) const {
+    for (const 条件欄& e : 条件欄群) {
+        if (e.名前 == 名前) return &e;
+    }
+    return nullptr;
+}
+
+void 一覧画面::焦点(部品* 先) {
+    if (先 && 先->所属) 先->所属->SetFocus(*先);
+}
+
+void 一覧画面::欄句(検索文& 文, const 句定義& 句) const {
+    const QString 値 = 条件.value(QString::fromUtf16(句.欄));
+    if (値.trimmed().isEmpty()) return;
+    文.加える(QString::fromUtf16(検索種別 == -1 ? 句.否 : 句.正) +
+              (句.曖昧 ? 引用符二重化(値) : 値) + QString::fromUtf16(句.閉じ));
+}
+
+void 一覧画面::区分句(検索文& 文, const QString& 番号, const QString& 正, const QString& 否) const {
+    const int i = 区分.value(番号);
+    if (i == 画面.探す(番号)->Max) return;
+    文.加える((検索種別 == -1 ? 否 : 正) + QString::number(i) + u"'"_qs);
+}
+
+void 一覧画面::呼出条件句(検索文& 文) const {
+    if (!s.一覧条件文字列.trimmed().isEmpty()) {
+        文.加える(u" AND ("_qs + s.一覧条件文字列 + u")"_qs);
+    }
+}
+
+QString 一覧画面::方言() const {
+    // PostgreSQL takes the way of SQL Server wherever the statements differ.
+    const QString& db = d.環境.db;
+    return db == u"P" ? u"S"_qs : db;
+}
+
+void 一覧画面::検索ボタン(const QString& 名前, int 種別) {
+    画面(名前).Click = [this, 種別] {
+        検索種別 = 種別;
+        一覧検索実行();
+        画面.SetFocus(一覧());
+    };
+}
+
+void 一覧画面::欄を結ぶ(QList<条件欄> 欄群, QList<区分欄> 区分群) {
+    条件欄群 = std::move(欄群);
+    区分欄群 = std::move(区分群);
+    for (const 条件欄& e : 条件欄群) {
+        部品& p = 画面(e.名前);
+        p.Change = [this] { 検索ボタン状態更新(); };
+        if (e.種類 == 条件欄種類::名称) {
+            // A looked-up name is not typed: the focus goes on to what follows.
+            p.GotFocus = [this, &p] {
+                s.入力中項目 = &p;
+                s.一覧設定先名称項目 = 次項目補正(主, &p);
+                if (s.一覧設定先名称項目->所属 == &画面) 画面.SetFocus(*s.一覧設定先名称項目);
+            };
+            continue;
+        }
+        p.GotFocus = [this, &p] { s.入力中項目 = &p; };
+        p.LostFocus = [this, &p, 名前 = e.名前] {
+            const 条件欄& 定 = *欄(名前);
+            const QString 値 =
+                定.種類 == 条件欄種類::コード ? 書式桁揃え(p.Text, 定.マスク) : p.Text;
+            if (値 != 条件.value(名前)) {
+                条件[名前] = 値;
+                if (!定.名称欄.isEmpty()) 条件[定.名称欄] = 名称検索(定, 値);
+            }
+            一覧条件表示();
+        };
+        if (!e.入れ子画面.isEmpty()) {
+            const auto 開く = [this, &p, 名前 = e.名前] {
+                if (s.入力中項目 == &p) 入れ子一覧(*欄(名前));
+            };
+            p.KeyDown = [開く](int キー) {
+                if (キー == 17) 開く();
+            };
+            p.DblClick = 開く;
+        }
+    }
+    for (const 区分欄& k : 区分欄群) {
+        部品& 番号 = 画面(k.番号);
+        部品& 名称 = 画面(k.名称);
+        番号.GotFocus = [this, &番号] { s.入力中項目 = &番号; };
+        名称.GotFocus = [this, &名称] { s.入力中項目 = &名称; };
+        番号.Change = [this, &番号, &名称] {
+            const int i = 番号.Text.toInt();
+            名称.ListIndex = i;
+            名称.Text = 名称.一覧.value(i);
+            区分[番号.名前] = i;
+        };
+        名称.LostFocus = [this, &番号, &名称] {
+            番号.Text = QString::number(名称.ListIndex);
+            区分[番号.名前] = 名称.ListIndex;
+        };
+    }
+}
+
+void 一覧画面::区分一覧作成() {
+    for (const 区分欄& k : 区分欄群) {
+        部品& 名称 = 画面(k.名称);
+        名称.一覧.clear();
+        記録集合 rs;
+        if (d.業務DB検索(rs, k.文)) {
+            for (; !rs.EOFか(); rs.MoveNext()) 名称.一覧 << rs.文字列(u"名称"_qs);
+        }
+        rs.閉じる();
+        部品& 番号 = 画面(k.番号);
+        番号.Min = 0;
+        番号.Max = static_cast<int>(名称.一覧.size());
+        名称.一覧 << u"全て"_qs;
+    }
+}
+
+void 一覧画面::一覧条件表示() {
+    // Texts set here run the fields' change events, so the search buttons follow.
+    for (const 条件欄& e : 条件欄群) 画面.文字設定(画面(e.名前), 条件.value(e.名前));
+    for (const 区分欄& k : 区分欄群) {
+        const int i = 区分.value(k.番号);
+        画面(k.番号).Text = QString::number(i);
+        部品& 名称 = 画面(k.名称);
+        名称.ListIndex = i;
+        名称.Text = 名称.一覧.value(i);
+    }
+}
+
+void 一覧画面::列作成(const QList<一覧列>& 列) {
+    部品& L = 一覧();
+    L.列 = 列;
+    L.項目クリア();
+}
+
+QString 一覧画面::条件取出(const QString& 項目名) {
+    if (!s.一覧条件文字列.contains(項目名, Qt::CaseInsensitive)) return {};
+    const QString 元 = s.一覧条件文字列;
+    return 条件値取出(項目名, 元, s.一覧条件文字列);
+}
+
+QString 一覧画面::名称検索(const 条件欄& 欄, const QString& コード) {
+    記録集合 rs;
+    QString 名称;
+    if (d.業務DB検索(rs, 欄.名称文 + コード + u"'"_qs)) 名称 = rs.文字列(欄.名称列);
+    rs.閉じる();
+    return 名称;
+}
+
+void 一覧画面::初回検索() {
+    一覧条件表示();
+    検索種別 = 0;
+    一覧検索実行();
+    // Nothing is picked by a stray Enter right after opening.
+    一覧().選択 = -1;
+    if (部品* 先頭 = 画面.次のタブ(nullptr, false)) 画面.SetFocus(*先頭);
+}
+
+void 一覧画面::一覧検索実行() {
+    部品& L = 一覧();
+    L.項目クリア();
+    検索SQL = 検索文作成();
+    const int 上限 = 行上限();
+    int 件数 = 0;
+    if (!検索SQL.isEmpty()) {
+        記録集合 rs;
+        if (d.業務DB検索(rs, 検索SQL)) {
+            for (; (上限 == 0 || 件数 < 上限) && !rs.EOFか(); rs.MoveNext()) 行を加える(rs, 件数++);
+        }
+        rs.閉じる();
+    }
+    if (L.Sorted) L.並べ替え();
+    // The limit is only told, never counted past.
+    if (部品* 注意 = 画面.探す(u"lab_注意"_qs)) 注意->Visible = 上限 > 0 && 件数 >= 上限;
+    検索ボタン状態更新();
+}
+
+void 一覧画面::行を加える(記録集合& rs, int) {
+    一覧項目 項;
+    項.Text = rs.値(0).toString();
+    // A key must not be purely numeric.
+    項.Key = u"C"_qs + 項.Text;
+    for (int c = 1; c < rs.列数(); ++c) {
+        const QVariant v = rs.値(c);
+        項.SubItems << (v.isNull() ? QString() : v.toString());
+    }
+    一覧().項目追加(std::move(項));
+}
+
+void 一覧画面::検索ボタン状態更新() {
+    for (const 条件欄& e : 条件欄群) {
+        if (e.検索ボタン.isEmpty() || e.種類 == 条件欄種類::名称) continue;
+        画面(e.検索ボタン).Enabled = !画面(e.名前).Text.trimmed().isEmpty();
+    }
+}
+
+void 一覧画面::列見出しクリック(int 列番号) {
+    部品& L = 一覧();
+    if (列番号 - 1 != L.SortKey) {
+        L.SortKey = 列番号 - 1;
+    } else {
+        L.降順 = !L.降順;
+    }
+    L.Sorted = true;
+    L.並べ替え();
+}
+
+void 一覧画面::選ぶ() {
+    部品& L = 一覧();
+    if (L.選択 < 0 || L.選択 >= L.項目.size()) return;
+    const 一覧項目 項 = L.項目.at(L.選択);
+    // The number and description lists answer with the row's key, which outlives the close.
+    if (鍵を返す()) s.一覧条件文字列 = 項.Key;
+    if (部品* 先 = s.一覧設定先項目) 先->所属->文字設定(*先, 項.Text);
+    閉じる();
+    if (!鍵を返す()) s.一覧条件文字列.clear();
+    if (s.一覧入れ子区分 == 1) {
+        d.基盤.画面使用可否(s.一覧呼出元画面, true);
+        焦点(s.一覧設定先項目);
+        焦点(s.一覧設定先名称項目);
+        return;
+    }
+    d.基盤.画面使用可否(主.名前, true);
+    焦点(s.一覧設定先項目);
+    s.一覧設定先名称項目 = 次項目補正(主, s.一覧設定先名称項目);
+    焦点(s.一覧設定先名称項目);
+}
+
+void 一覧画面::戻る() {
+    閉じる();
+    呼出元へ戻す();
+}
+
+void 一覧画面::枠で閉じた() {
+    呼出元へ戻す();
+}
+
+void 一覧画面::呼出元へ戻す() {
+    d.基盤.画面使用可否(s.一覧入れ子区分 == 1 ? s.一覧呼出元画面 : 主.名前, true);
+    s.一覧条件文字列.clear();
+    焦点(s.一覧設定先項目);
+}
+
+void 一覧画面::閉じる() {
+    const QString 題 = 登録画面題();
+    if (鍵を返す() || 題.isEmpty() || 主.Caption.contains(題)) {
+        d.基盤.画面終了(画面.名前);
+    } else {
+        d.基盤.画面隠す(画面.名前);
+    }
+}
+
+void 一覧画面::条件クリア() {
+    s.一覧条件文字列.clear();
+    検索種別 = 0;
+    一覧初期条件展開();
+    一覧条件表示();
+    一覧検索実行();
+    画面.SetFocus(一覧());
+}
+
+void 一覧画面::入れ子一覧(const 条件欄& 欄) {
+    部品* 先 = s.一覧設定先項目;
+    部品* 名 = s.一覧設定先名称項目;
+    s.一覧呼出元画面 = 画面.名前;
+    s.一覧入れ子区分 = 1;
+    d.基盤.画面使用可否(画面.名前, false);
+    s.一覧条件文字列.clear();
+    s.一覧設定先項目 = &画面(欄.名前);
+    s.一覧設定先名称項目 = &画面(欄.検索ボタン);
+    d.基盤.画面表示(欄.入れ子画面, true);
+    s.一覧入れ子区分 = 0;
+    s.一覧呼出元画面.clear();
+    s.一覧設定先項目 = 先;
+    s.一覧設定先名称項目 = 名;
+    s.入力中項目 = &画面(欄.名前);
+}

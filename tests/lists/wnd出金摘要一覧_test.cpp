@@ -1,0 +1,130 @@
+#include "lists/wnd出金摘要一覧.h"
+
+#include "common/出金入力.h"
+#include "lists/一覧試験.h"
+
+namespace {
+
+class 出金摘要一覧 : public 一覧試験 {
+  protected:
+    void SetUp() override {
+        一覧試験::SetUp();
+        if (HasFatalFailure() || IsSkipped()) return;
+        開始();
+    }
+    // A stored slip of that day whose lines carry these descriptions.
+    void 保存(const QString& 日付, const QStringList& 摘要) {
+        s.出金情報初期化();
+        出金日付入力(s, 日付);
+        ASSERT_TRUE(担当者入力(s, u"00003"_qs));
+        for (const QString& t : 摘要) ASSERT_TRUE(明細入力(s, 3, 金額::円(100), {}, t));
+        ASSERT_TRUE(s.新規登録処理());
+        s.出金情報初期化();
+        f->画面全表示();
+    }
+    bool A() const { return !GetParam(); }
+    // The header is complete first: the lines open only then.
+    void 開く() {
+        ASSERT_TRUE(f->担当者確定(u"00003"_qs));
+        f->見出し表示();
+        f->画面.操作_クリック(c(u"btn_摘要"_qs, 0));
+    }
+};
+
+TEST_P(出金摘要一覧, 開くと直近三か月の空でない摘要が先頭20文字で並ぶ) {
+    保存(u"20250701"_qs, {u"古い摘要"_qs});
+    保存(u"20251001"_qs,
+         {u"ボールペン"_qs, QString(), u"あいうえおかきくけこさしすせそたちつてと長い続き"_qs});
+    QStringList 行;
+    操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
+        行 = 列(x);
+        EXPECT_EQ(x.一覧().選択, -1);
+        EXPECT_EQ(x.画面(u"opb_期間"_qs, 0).Value, 1);
+        EXPECT_EQ(x.画面(u"opb_期間"_qs, 4).Caption, u"全て"_qs);
+        EXPECT_TRUE(
+            x.検索SQL.contains(u" WHERE 出金日付 >= '20250820' AND 出金日付 <= '20251120'"_qs))
+            << x.検索SQL.toStdString();
+    };
+    開く();
+    EXPECT_EQ(行, (QStringList{u"あいうえおかきくけこさしすせそたちつてと"_qs, u"ボールペン"_qs}));
+}
+
+TEST_P(出金摘要一覧, 先頭20文字が同じ摘要はSとOでは一度だけAでは重ねて出る) {
+    保存(u"20251101"_qs, {u"あいうえおかきくけこさしすせそたちつてと一"_qs,
+                          u"あいうえおかきくけこさしすせそたちつてと二"_qs});
+    QStringList 行, 鍵;
+    操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
+        行 = 列(x);
+        for (const auto& r : x.一覧().項目) 鍵 << r.Key;
+    };
+    開く();
+    const QString 先頭 = u"あいうえおかきくけこさしすせそたちつてと"_qs;
+    if (A()) {
+        EXPECT_EQ(行, (QStringList{先頭, 先頭}));
+        EXPECT_EQ(鍵, (QStringList{u"C00000000001"_qs + 先頭, u"C00000000002"_qs + 先頭}));
+    } else {
+        EXPECT_EQ(行, QStringList{先頭});
+        EXPECT_EQ(鍵, QStringList{u"C"_qs + 先頭});
+    }
+}
+
+TEST_P(出金摘要一覧, 全てにすると日付のある全部の行が出る) {
+    保存(u"20100101"_qs, {u"十五年前"_qs});
+    保存(u"20251101"_qs, {u"今月"_qs});
+    操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
+        EXPECT_EQ(列(x), QStringList{u"今月"_qs});
+        // The option is only stored; the search button uses it.
+        x.画面.操作_クリック(x.画面(u"opb_期間"_qs, 4));
+        EXPECT_EQ(列(x), QStringList{u"今月"_qs});
+        EXPECT_EQ(x.画面(u"opb_期間"_qs, 0).Value, 0);
+        x.画面.操作_クリック(x.画面(u"btn_複合検索"_qs));
+        EXPECT_EQ(列(x), (QStringList{u"今月"_qs, u"十五年前"_qs}));
+        EXPECT_TRUE(x.検索SQL.contains(u" WHERE 出金日付 <> ''"_qs));
+        x.画面.操作_クリック(x.画面(u"btn_画面クリア"_qs));
+        EXPECT_EQ(x.画面(u"opb_期間"_qs, 0).Value, 1);
+        EXPECT_EQ(列(x), QStringList{u"今月"_qs});
+    };
+    開く();
+}
+
+TEST_P(出金摘要一覧, 検索文字列は先頭20文字の中でだけ合い否検索はその逆) {
+    保存(u"20251101"_qs, {u"あいうえおかきくけこさしすせそたちつてと末尾"_qs, u"末尾の付箋"_qs,
+                          u"100%果汁"_qs, u"O'Neilの本"_qs});
+    操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
+        x.画面.操作_入力(x.画面(u"検索文字列"_qs), u"末尾"_qs);
+        x.画面.操作_Tab();
+        x.画面.操作_クリック(x.画面(u"btn_複合検索"_qs));
+        EXPECT_EQ(列(x), QStringList{u"末尾の付箋"_qs});
+        EXPECT_TRUE(x.検索SQL.contains(A() ? u" AND LEFT(摘要,20)  LIKE '%末尾%'"_qs
+                                           : u" AND SUBSTRING(摘要,1,20)  LIKE '%末尾%'"_qs));
+        x.画面.操作_クリック(x.画面(u"btn_否定検索"_qs));
+        EXPECT_EQ(列(x).size(), 3);
+        EXPECT_TRUE(x.検索SQL.contains(u" AND SUBSTRING(摘要,1,20) NOT LIKE '%末尾%'"_qs));
+        x.画面.操作_入力(x.画面(u"検索文字列"_qs), u"O'N"_qs);
+        x.画面.操作_Tab();
+        x.画面.操作_クリック(x.画面(u"btn_複合検索"_qs));
+        EXPECT_EQ(列(x), QStringList{u"O'Neilの本"_qs});
+    };
+    開く();
+}
+
+TEST_P(出金摘要一覧, 選ぶと鍵が返り窓は閉じ費目区分に文字が入ってから摘要へ進む) {
+    保存(u"20251101"_qs, {u"ボールペン"_qs});
+    QString 鍵;
+    操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
+        x.画面.操作_キー(x.一覧(), 40);
+        鍵 = x.一覧().項目.value(0).Key;
+        x.画面.操作_キー(x.一覧(), 13);
+    };
+    開く();
+    EXPECT_EQ(基盤.閉じた画面, QStringList{u"wnd出金摘要一覧"_qs});
+    EXPECT_EQ(基盤.使用可否.last(), (QPair<QString, bool>{u"frm紺碧帳"_qs, true}));
+    // The key names no stored line, so nothing is taken over and the line stays empty.
+    EXPECT_FALSE(鍵.isEmpty());
+    EXPECT_EQ(s.最終行, -1);
+    EXPECT_TRUE(c(u"費目区分"_qs, 0).Text.isEmpty());
+}
+
+KONPEKI_一覧両エンジン(出金摘要一覧);
+
+}  // namespace

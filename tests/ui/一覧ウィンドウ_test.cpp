@@ -1,0 +1,188 @@
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <functional>
+#include <memory>
+
+#include "common/出金入力.h"
+#include "common/出金準備.h"
+#include "lists/一覧画面集.h"
+#include "screen/frm紺碧帳.h"
+#include "ui/Qtプラットフォーム.h"
+#include "ui/画面ウィンドウ.h"
+
+namespace {
+
+// The entry window and the list windows as the program shows them: real modal windows over the
+// entry window, driven by real keys and clicks.
+class 一覧ウィンドウ試験 : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
+        出金セッション準備(s, 木);
+        if (HasFatalFailure()) return;
+        f.画面読込([this] { s.出金情報初期化(); });
+        for (const auto& x : 集.全部()) 基盤.画面登録(x->画面.名前, x->画面);
+        主窓 = std::make_unique<ScreenWindow>(f.画面);
+        主窓->show();
+        QApplication::setActiveWindow(主窓.get());
+        主窓->反映();
+    }
+
+    部品& c(const QString& 名前, int 行 = -1) { return f.画面(名前, 行); }
+    QWidget* 主(const QString& 名前, int 行 = -1) { return 主窓->ウィジェット(c(名前, 行)); }
+    QString 焦点() const {
+        const 部品* p = f.画面.フォーカス();
+        return p ? p->名前 : QString();
+    }
+    // What the operator does once the list window with that title is up. The window comes up
+    // inside the click that opens it, so the operator looks for it until it is there; a window
+    // that never comes is a failure, and every list is closed so that the test ends.
+    void 窓で(const QString& 題, std::function<void(ScreenWindow&, 画面モデル&)> 手) {
+        auto 回 = std::make_shared<int>(0);
+        auto* 時計 = new QTimer(主窓.get());
+        QObject::connect(時計, &QTimer::timeout, [this, 題, 手, 回, 時計] {
+            for (QWidget* t : QApplication::topLevelWidgets()) {
+                auto* 窓 = dynamic_cast<ScreenWindow*>(t);
+                if (!窓 || !窓->isVisible() || 窓->windowTitle() != 題) continue;
+                時計->stop();
+                時計->deleteLater();
+                写真(窓, 題);
+                手(*窓, 集.探す(u"wnd"_qs + 題)->画面);
+                return;
+            }
+            if (++*回 < 500) return;
+            時計->stop();
+            ADD_FAILURE() << "no window " << 題.toStdString();
+            for (const auto& x : 集.全部()) 基盤.画面終了(x->画面.名前);
+        });
+        時計->start(10);
+    }
+    static void 写真(QWidget* 窓, const QString& 名前) {
+        QDir().mkpath(QStringLiteral(KONPEKI_ARTIFACTS));
+        窓->grab().save(QStringLiteral(KONPEKI_ARTIFACTS) + u"/"_qs + 名前 + u".png"_qs);
+    }
+    // Keys go to the widget of the control that holds the model's focus in that window.
+    static QWidget* 焦点の窓部品(ScreenWindow& 窓, 画面モデル& m) {
+        return m.フォーカス() ? 窓.ウィジェット(*m.フォーカス()) : nullptr;
+    }
+    static void キー(ScreenWindow& 窓, 画面モデル& m, Qt::Key k) {
+        QTest::keyClick(焦点の窓部品(窓, m), k);
+    }
+    // Typed as an input method commits it, then Tab.
+    static void 打つ(ScreenWindow& 窓, 画面モデル& m, const QString& 欄, const QString& 文字列) {
+        QTest::mouseClick(窓.ウィジェット(m(欄)), Qt::LeftButton);
+        QInputMethodEvent 確定;
+        確定.setCommitString(文字列);
+        QApplication::sendEvent(焦点の窓部品(窓, m), &確定);
+        キー(窓, m, Qt::Key_Tab);
+    }
+    static void 押す(ScreenWindow& 窓, 画面モデル& m, const QString& 釦) {
+        QTest::mouseClick(窓.ウィジェット(m(釦)), Qt::LeftButton);
+    }
+    // A stored slip of staff 00003 with one line of that description.
+    void 保存(const QString& 日付, const QString& 摘要) {
+        s.出金情報初期化();
+        出金日付入力(s, 日付);
+        ASSERT_TRUE(担当者入力(s, u"00003"_qs));
+        ASSERT_TRUE(明細入力(s, 3, 金額::円(500), {}, 摘要));
+        ASSERT_TRUE(s.新規登録処理());
+        s.出金情報初期化();
+        f.画面全表示();
+        主窓->反映();
+    }
+
+    試験用ツリー 木;
+    Qtプラットフォーム 基盤;
+    出金セッション s{基盤};
+    frm紺碧帳 f{s};
+    一覧画面集 集{s, f.画面};
+    std::unique_ptr<ScreenWindow> 主窓;
+};
+
+TEST_F(一覧ウィンドウ試験, 担当者一覧で名前を打って探しキーで選ぶとコードが入り次へ進む) {
+    窓で(u"担当者一覧"_qs, [](ScreenWindow& 窓, 画面モデル& m) {
+        打つ(窓, m, u"名称"_qs, u"大野"_qs);
+        押す(窓, m, u"btn_名称検索"_qs);
+        auto* 一覧 = qobject_cast<QTreeWidget*>(窓.ウィジェット(m(u"List担当者"_qs)));
+        ASSERT_NE(一覧, nullptr);
+        EXPECT_EQ(一覧->topLevelItemCount(), 1);
+        EXPECT_EQ(一覧->topLevelItem(0)->text(1), u"大野 大輔"_qs);
+        EXPECT_EQ(一覧->headerItem()->text(4), u"セクション"_qs);
+        EXPECT_EQ(一覧->columnWidth(1), 2500 / 15);
+        EXPECT_EQ(焦点の窓部品(窓, m), 一覧);
+        写真(&窓, u"担当者一覧_検索後"_qs);
+        キー(窓, m, Qt::Key_Return);
+    });
+    QTest::mouseClick(主(u"btn_担当者コード"_qs), Qt::LeftButton);
+    EXPECT_EQ(c(u"担当者コード"_qs).Text, u"00005"_qs);
+    EXPECT_EQ(qobject_cast<QLineEdit*>(主(u"担当者コード"_qs))->text(), u"00005"_qs);
+    EXPECT_EQ(s.見出し.担当者名, u"大野 大輔"_qs);
+    EXPECT_NE(焦点(), u"担当者コード"_qs);
+    EXPECT_EQ(主窓->focusWidget(), 主窓->ウィジェット(*f.画面.フォーカス()));
+}
+
+TEST_F(一覧ウィンドウ試験, 部門一覧はEscで戻り二度目は前の窓のまま選べる) {
+    ASSERT_TRUE(f.担当者確定(u"00003"_qs));
+    f.見出し表示();
+    主窓->反映();
+    窓で(u"部門一覧"_qs, [](ScreenWindow& 窓, 画面モデル& m) { キー(窓, m, Qt::Key_Escape); });
+    QTest::mouseClick(主(u"btn_部門コード"_qs), Qt::LeftButton);
+    EXPECT_EQ(c(u"部門コード"_qs).Text, u"001"_qs);
+    窓で(u"部門一覧"_qs, [](ScreenWindow& 窓, 画面モデル& m) {
+        QTest::mouseClick(窓.ウィジェット(m(u"List部門"_qs)), Qt::LeftButton);
+        キー(窓, m, Qt::Key_Down);
+        キー(窓, m, Qt::Key_Down);
+        キー(窓, m, Qt::Key_Return);
+    });
+    QTest::mouseClick(主(u"btn_部門コード"_qs), Qt::LeftButton);
+    EXPECT_EQ(c(u"部門コード"_qs).Text, u"002"_qs);
+    EXPECT_EQ(s.見出し.部門名, u"経理部"_qs);
+}
+
+TEST_F(一覧ウィンドウ試験, 出金No一覧で選ぶと伝票が読まれる) {
+    const QDate 今日 = QDate::currentDate();
+    保存(今日.toString(u"yyyyMMdd"_qs), u"文具"_qs);
+    保存(今日.toString(u"yyyyMMdd"_qs), u"切手"_qs);
+    窓で(u"出金No一覧"_qs, [](ScreenWindow& 窓, 画面モデル& m) {
+        auto* 一覧 = qobject_cast<QTreeWidget*>(窓.ウィジェット(m(u"List出金No"_qs)));
+        ASSERT_EQ(一覧->topLevelItemCount(), 2);
+        押す(窓, m, u"btn_複合検索"_qs);
+        キー(窓, m, Qt::Key_Down);
+        キー(窓, m, Qt::Key_Return);
+    });
+    QTest::mouseClick(主(u"btn_出金No"_qs), Qt::LeftButton);
+    EXPECT_EQ(s.見出し.出金No, u"00000001"_qs);
+    EXPECT_EQ(s.行[0].摘要, u"文具"_qs);
+}
+
+TEST_F(一覧ウィンドウ試験, 出金摘要一覧で探して選ぶと窓が閉じて入力画面に戻る) {
+    保存(QDate::currentDate().toString(u"yyyyMMdd"_qs), u"ボールペン"_qs);
+    ASSERT_TRUE(f.担当者確定(u"00003"_qs));
+    f.見出し表示();
+    主窓->反映();
+    窓で(u"出金摘要一覧"_qs, [](ScreenWindow& 窓, 画面モデル& m) {
+        打つ(窓, m, u"検索文字列"_qs, u"ボール"_qs);
+        押す(窓, m, u"btn_複合検索"_qs);
+        auto* 一覧 = qobject_cast<QTreeWidget*>(窓.ウィジェット(m(u"List出金摘要"_qs)));
+        EXPECT_EQ(一覧->topLevelItemCount(), 1);
+        EXPECT_EQ(一覧->headerItem()->text(0), u"出金摘要"_qs);
+        EXPECT_EQ(一覧->columnWidth(0), 6400 / 15);
+        キー(窓, m, Qt::Key_Return);
+    });
+    QTest::mouseClick(主(u"btn_摘要"_qs, 0), Qt::LeftButton);
+    for (QWidget* t : QApplication::topLevelWidgets()) {
+        if (auto* x = dynamic_cast<ScreenWindow*>(t)) {
+            EXPECT_FALSE(x->isVisible() && x->windowTitle() == u"出金摘要一覧");
+        }
+    }
+    EXPECT_EQ(s.最終行, -1);
+}
+
+}  // namespace
