@@ -8,7 +8,7 @@
 // Prints one figure as "name: median (min .. max) unit" over the given samples.
 void 結果表示(const char* 名前, std::vector<double> 標本, const char* 単位);
 
-// A sample tree in a temporary folder with the built program in prgbin; with a connection
+// A sample tree in a temporary folder with the built programs in prgbin; with a connection
 // string, its general database is that PostgreSQL database.
 struct 計測用ツリー {
     QTemporaryDir 一時;
@@ -28,3 +28,4 @@ void 伝票計測();
 void 入力画面計測();
 void 登録計測();
 void 削除頁送り計測();
+void 帳票計測();

@@ -108,7 +108,8 @@ bool SQLフォルダ実行(データ接続& 接続, const QString& フォルダ,
 
 bool ツリー作成(const ツリー作成指定& 指定, QString& エラー) {
     const QString 根 = QDir(指定.根).absolutePath();
-    for (const char16_t* 名 : {u"prgbin", u"conf", u"report", u"manual", u"data", u"users"}) {
+    for (const char16_t* 名 :
+         {u"prgbin", u"conf", u"report", u"manual", u"data", u"users", u"documents"}) {
         if (!QDir().mkpath(根 + u"/"_qs + QString::fromUtf16(名))) {
             エラー = 根 + u": フォルダを作成できません"_qs;
             return false;
@@ -164,6 +165,12 @@ bool ツリー作成(const ツリー作成指定& 指定, QString& エラー) {
     }
     if (!環境.実行(定義 + u" WHERE 情報種類 = 'GNR'"_qs)) {
         エラー = 環境.最終エラー().説明;
+        return false;
+    }
+    // The company keeps its attached documents and PDFs of slips inside the tree.
+    if (!業務.実行(u"UPDATE Mユーザ SET ドキュメントフォルダ = "_qs + 引用(根 + u"/documents"_qs) +
+                   u" WHERE ID = '0001'"_qs)) {
+        エラー = 業務.最終エラー().説明;
         return false;
     }
     return true;

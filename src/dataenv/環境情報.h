@@ -56,3 +56,8 @@ struct プログラム環境情報 {
 inline QString 環境DBファイル名(short 種別) {
     return 種別 == 1 ? u"/usrcnfg.db"_qs : 種別 == 2 ? u"/usrcnfg.sqlite"_qs : QString();
 }
+
+// The user column of the tables: user name, starting operator and computer name, joined.
+inline QString 記録者ID(const プログラム環境情報& 環境) {
+    return 環境.ユーザID + 環境.起動担当者コード + 環境.端末名;
+}

@@ -4,10 +4,6 @@
 #include "rules/番号設定.h"
 #include "text/数値変換.h"
 
-QString 記録者ID(const プログラム環境情報& 環境) {
-    return 環境.ユーザID + 環境.起動担当者コード + 環境.端末名;
-}
-
 書込結果 未集計情報書込(データ環境& e, const QString& 登録情報区分, const QString& 赤黒区分,
                         const QString& 番号ID, const QString& 事業所コード,
                         const QString& 番号基準日付, const QString& 伝票No, const QString& 履歴No) {

@@ -4,17 +4,15 @@
 
 #include <optional>
 
+#include "dataenv/環境情報.h"
+
 class データ環境;
-struct プログラム環境情報;
 
 // How a write ended, in the session values that a store keeps: 1 and empty, or 3 and its text.
 struct 書込結果 {
     short 処理結果区分 = 0;
     QString 処理結果メッセージ;
 };
-
-// The user column of the slip tables: user name, starting operator and computer name, joined.
-QString 記録者ID(const プログラム環境情報& 環境);
 
 // One queue row for the aggregation. It goes to the general database, with a history row,
 // when the update program is not started after each store (更新実行区分 1), and otherwise to

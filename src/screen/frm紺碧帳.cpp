@@ -128,6 +128,10 @@ void frm紺碧帳::事象を結ぶ() {
     画面(u"btn_印刷"_qs).Click = [this] { 帳票(u"0"_qs); };
     画面(u"btn_プレビュ"_qs).Click = [this] { 帳票(u"1"_qs); };
     画面(u"btn_帳票イメージ出力"_qs).Click = [this] { 帳票(u"3"_qs); };
+    画面(u"btn_付属書類追加"_qs).Click = [this] { 付属書類ファイル追加(); };
+    画面(u"btn_フォルダ"_qs).Click = [this] { 付属書類フォルダ追加(); };
+    画面(u"btn_付属書類削除"_qs).Click = [this] { 付属書類を外す(選択中の付属書類()); };
+    画面(u"List付属書類"_qs).DblClick = [this] { 付属書類を開く(選択中の付属書類()); };
     // The quit takes no busy test: it is always there.
     画面(u"btn_終了"_qs).Click = [this] {
         bool 取消 = false;

@@ -27,9 +27,6 @@ class frm紺碧帳 {
     // The dialogues of the register flow.
     msg印刷確認 印刷確認{s};
     msgお待ち お待ち;
-    // A report of a stored slip by its 19-character key: "0" print, "1" preview, "3" PDF. The
-    // report program is not started by this build yet, so the request goes here.
-    std::function<void(const QString& 出力区分, const QString& 伝票鍵)> 帳票要求;
     // The stop sequence and the end of the process, once the quit is decided.
     std::function<void()> 停止;
 
@@ -39,6 +36,7 @@ class frm紺碧帳 {
     void 削除();
     void 画面クリア();
     void 隣へ(bool 前);
+    // btn_印刷, btn_プレビュ, btn_帳票イメージ出力: "0" print, "1" preview, "3" PDF.
     void 帳票(const QString& 出力区分);
     // The quit: a stored slip with a gap may not be left; pending changes are asked about.
     // 取消 comes back true when the screen stays.
@@ -46,6 +44,18 @@ class frm紺碧帳 {
     // The attachment list of the slip and the enabling of its three buttons.
     void 付属書類listint();
     void 付属書類ボタン更新();
+    // btn_付属書類追加 and btn_フォルダ: a file or a folder picked and attached to the slip on
+    // screen; btn_付属書類削除 and a double click in the list: the document of a list item,
+    // by its Key, removed with its copy or opened. An empty Key is no item selected.
+    void 付属書類ファイル追加();
+    void 付属書類フォルダ追加();
+    void 付属書類を外す(const QString& Key);
+    void 付属書類を開く(const QString& Key);
+    // The slip's record in M付属書類 as the screen shows it: office, the number base date of
+    // the date on screen, the number on screen.
+    QString 付属書類識別ID();
+    // The Key of the list's selected item; empty with none selected.
+    QString 選択中の付属書類();
 
     // The screen's load step: lay out, fill the lists, title the window, load or clear the slip,
     // display.
@@ -116,6 +126,8 @@ class frm紺碧帳 {
     void 離脱項目へ();
     bool 書込権限確認(short 操作区分);
     void 新しい伝票へ();
+    // The report program on the slip in memory, whether it is stored or not.
+    void 帳票起動する(const QString& 出力区分);
 
     // Writes to the controls without their events reading it back as input; a display inside
     // another keeps the outer one's guard.

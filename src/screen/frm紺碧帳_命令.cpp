@@ -1,4 +1,5 @@
 #include "dataenv/操作権限.h"
+#include "rules/帳票起動.h"
 #include "screen/frm紺碧帳.h"
 #include "text/プラットフォーム.h"
 
@@ -73,7 +74,7 @@ void frm紺碧帳::帳票(const QString& 出力区分) {
                                             : u"PDFを作成しますか?"_qs;
     // A refused right ends the command without a word.
     if (操作権限OK(d.操作権限確認(u"翠嶺"_qs, u"紺碧帳書"_qs, 区分)) && 問う(d.基盤, 問い)) {
-        if (帳票要求) 帳票要求(出力区分, s.伝票鍵());
+        帳票起動する(出力区分);
         if (出力区分 == u"3") {
             // The report program writes the PDF and registers it; the list is read once it is
             // likely done.
@@ -85,6 +86,11 @@ void frm紺碧帳::帳票(const QString& 出力区分) {
         }
     }
     if (出力区分 == u"0") 離脱項目へ();
+}
+
+void frm紺碧帳::帳票起動する(const QString& 出力区分) {
+    const 出金見出し& h = s.見出し;
+    ::帳票起動(s.データ, 出力区分, h.事業所コード, h.出金日付, h.出金No, h.担当者コード);
 }
 
 void frm紺碧帳::終了確認(bool& 取消) {
@@ -99,30 +105,4 @@ void frm紺碧帳::終了確認(bool& 取消) {
         return;
     }
     if (停止) 停止();
-}
-
-void frm紺碧帳::付属書類listint() {
-    // The documents themselves are listed once attachments are read; the list starts empty.
-    表示中([this] {
-        部品& 一覧 = 画面(u"List付属書類"_qs);
-        一覧.一覧.clear();
-        一覧.ListIndex = -1;
-    });
-    付属書類ボタン更新();
-}
-
-void frm紺碧帳::付属書類ボタン更新() {
-    const bool 保存済み = !s.新規情報フラグ;
-    画面(u"btn_付属書類追加"_qs).Enabled = 保存済み;
-    画面(u"btn_フォルダ"_qs).Enabled = 保存済み;
-    bool 書類あり = false;
-    if (保存済み) {
-        記録集合 rs;
-        const QString 文 =
-            u"SELECT * FROM M付属書類 WHERE 情報名 = '紺碧帳' AND 情報識別ID = '"_qs +
-            s.見出し.事業所コード + s.見出し.番号基準日付 + 画面(u"出金No"_qs).Text + u"'"_qs;
-        書類あり = s.データ.業務DB検索(rs, 文);
-        rs.閉じる();
-    }
-    画面(u"btn_付属書類削除"_qs).Enabled = 書類あり;
 }

@@ -56,9 +56,8 @@ void frm紺碧帳::登録処理() {
         s.修正登録処理();
     }
     // The slip is printed from memory, before the clear; a refused right passes in silence.
-    if (s.登録確認結果 == 0 && 操作権限OK(d.操作権限確認(u"翠嶺"_qs, u"紺碧帳書"_qs, 4)) &&
-        帳票要求) {
-        帳票要求(u"0"_qs, s.伝票鍵());
+    if (s.登録確認結果 == 0 && 操作権限OK(d.操作権限確認(u"翠嶺"_qs, u"紺碧帳書"_qs, 4))) {
+        帳票起動する(u"0"_qs);
     }
     新しい伝票へ();
 }

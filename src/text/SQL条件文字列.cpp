@@ -2,13 +2,18 @@
 
 #include "text/数値書式.h"
 
-QString 引用符二重化(const QString& 文字列) {
+QString 引用符だけ二重化(const QString& 文字列) {
     QString 結果;
     結果.reserve(文字列.size() + 4);
     for (QChar c : 文字列) {
         結果.append(c);
         if (c == u'\'') 結果.append(c);
     }
+    return 結果;
+}
+
+QString 引用符二重化(const QString& 文字列) {
+    QString 結果 = 引用符だけ二重化(文字列);
     qsizetype n = 結果.size();
     while (n > 0 && 結果.at(n - 1) == u' ') --n;
     結果.truncate(n);

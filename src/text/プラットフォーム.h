@@ -65,6 +65,10 @@ class プラットフォーム {
     virtual bool 文書を開く(const QString& パス, const QString& 作業フォルダ) = 0;
     virtual bool プログラム起動(const QString& プログラム, const QStringList& 引数,
                                 const QString& 作業フォルダ) = 0;
+    // The pickers of a file (filter in the "name (*.ext)|*.ext|..." form) and of a folder,
+    // opened at a folder; an empty answer is a cancel.
+    virtual QString ファイル選択(const QString& 開始フォルダ, const QString& 絞込) = 0;
+    virtual QString フォルダ選択(const QString& 題名, const QString& 開始フォルダ) = 0;
 
     // A plain box with an OK button, the form most messages of the program take.
     応答 メッセージ(const QString& 本文) {

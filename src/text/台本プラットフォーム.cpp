@@ -1,5 +1,7 @@
 #include "text/台本プラットフォーム.h"
 
+#include <QFileInfo>
+
 namespace {
 // With no answer queued, a box is closed by its default button, as Enter would close it.
 応答 既定の応答(const メッセージ指定& 指定) {
@@ -30,7 +32,21 @@ bool 台本プラットフォーム::文書を開く(const QString& パス, cons
 bool 台本プラットフォーム::プログラム起動(const QString& プログラム, const QStringList& 引数,
                                           const QString& 作業フォルダ) {
     起動済み.append({プログラム, 引数, 作業フォルダ});
-    return true;
+    // As the system's start would: only a program file that is there starts.
+    const QFileInfo 情報(プログラム);
+    return 情報.isFile() && 情報.isExecutable();
+}
+
+QString 台本プラットフォーム::ファイル選択(const QString& 開始フォルダ, const QString& 絞込) {
+    選択済み.append({u"ファイル"_qs, 絞込, 開始フォルダ});
+    if (選択中) 選択中();
+    return 選択回答.isEmpty() ? QString() : 選択回答.dequeue();
+}
+
+QString 台本プラットフォーム::フォルダ選択(const QString& 題名, const QString& 開始フォルダ) {
+    選択済み.append({u"フォルダ"_qs, 題名, 開始フォルダ});
+    if (選択中) 選択中();
+    return 選択回答.isEmpty() ? QString() : 選択回答.dequeue();
 }
 
 QStringList 台本プラットフォーム::表示文言() const {

@@ -20,6 +20,16 @@ class 台本プラットフォーム : public プラットフォーム {
     QList<メッセージ指定> 表示済み;  // every message box shown
     QList<起動記録> 起動済み;
     QStringList 開いた文書;
+    // Picks for the next file and folder pickers, in order; none queued is a cancel.
+    QQueue<QString> 選択回答;
+    struct 選択記録 {
+        QString 種類;  // "ファイル" or "フォルダ"
+        QString 題名或いは絞込;
+        QString 開始フォルダ;
+    };
+    QList<選択記録> 選択済み;
+    // What the operator does while a picker is up (a picker may move the current folder).
+    std::function<void()> 選択中;
     QDateTime 時刻 = QDateTime(QDate(2026, 4, 1), QTime(9, 0, 0));
     int イベント処理回数 = 0;
     int 最前面回数 = 0;
@@ -69,6 +79,8 @@ class 台本プラットフォーム : public プラットフォーム {
     bool 文書を開く(const QString& パス, const QString& 作業フォルダ) override;
     bool プログラム起動(const QString& プログラム, const QStringList& 引数,
                         const QString& 作業フォルダ) override;
+    QString ファイル選択(const QString& 開始フォルダ, const QString& 絞込) override;
+    QString フォルダ選択(const QString& 題名, const QString& 開始フォルダ) override;
 
     QStringList 表示文言() const;
 

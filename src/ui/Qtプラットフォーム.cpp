@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -114,6 +115,23 @@ bool Qtプラットフォーム::文書を開く(const QString& パス, const QS
 bool Qtプラットフォーム::プログラム起動(const QString& プログラム, const QStringList& 引数,
                                         const QString& 作業フォルダ) {
     return QProcess::startDetached(プログラム, 引数, 作業フォルダ);
+}
+
+QString Qtプラットフォーム::ファイル選択(const QString& 開始フォルダ, const QString& 絞込) {
+    // "name (*.ext)|*.ext|..." pairs become Qt's "name (*.ext);;..." form; "*.*" means every
+    // file, also those without a dot.
+    const QStringList 部分 = 絞込.split(u'|');
+    QStringList 項目;
+    for (qsizetype i = 0; i + 1 < 部分.size(); i += 2) {
+        項目.append(部分[i].section(u'(', 0, 0) + u'(' +
+                    QString(部分[i + 1]).replace(u"*.*"_qs, u"*"_qs) + u')');
+    }
+    return QFileDialog::getOpenFileName(QApplication::activeWindow(), QString(), 開始フォルダ,
+                                        項目.join(u";;"_qs));
+}
+
+QString Qtプラットフォーム::フォルダ選択(const QString& 題名, const QString& 開始フォルダ) {
+    return QFileDialog::getExistingDirectory(QApplication::activeWindow(), 題名, 開始フォルダ);
 }
 
 QWidget* Qtプラットフォーム::窓を作る(const QString& 画面名, 画面モデル& m) {

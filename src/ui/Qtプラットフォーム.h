@@ -27,6 +27,8 @@ class Qtプラットフォーム : public プラットフォーム {
     bool 文書を開く(const QString& パス, const QString& 作業フォルダ) override;
     bool プログラム起動(const QString& プログラム, const QStringList& 引数,
                         const QString& 作業フォルダ) override;
+    QString ファイル選択(const QString& 開始フォルダ, const QString& 絞込) override;
+    QString フォルダ選択(const QString& 題名, const QString& 開始フォルダ) override;
 
     QString 既定の題名 = u"紺碧帳"_qs;
 

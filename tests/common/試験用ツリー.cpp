@@ -1,5 +1,6 @@
 #include "試験用ツリー.h"
 
+#include <QFile>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QUuid>
@@ -89,4 +90,12 @@ QList<QVariantList> 全行(データ接続& 接続, const QString& 文) {
         行.append(値);
     }
     return 行;
+}
+
+bool 試験用ツリー::プログラムを置く(const QString& 名前) {
+    QFile f(プログラムフォルダ() + u"/"_qs + 名前);
+    if (!f.open(QIODevice::WriteOnly)) return false;
+    f.write("#!/bin/sh\nexit 0\n");
+    f.close();
+    return f.setPermissions(f.permissions() | QFileDevice::ExeOwner | QFileDevice::ExeUser);
 }

@@ -35,6 +35,10 @@ class 試験用ツリー {
     bool 作成済み = false;
     QString エラー;
 
+    // An executable of that name in prgbin that does nothing, for a program the scripted
+    // platform only records the start of.
+    bool プログラムを置く(const QString& 名前);
+
     // Runs one statement on the configuration or general database behind the program's back.
     bool 環境DB実行(const QString& 文);
     bool 業務DB実行(const QString& 文);

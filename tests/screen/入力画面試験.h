@@ -19,6 +19,7 @@ class 入力画面試験 : public ::testing::Test {
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
         出金セッション準備(s, 木);
         if (HasFatalFailure()) return;
+        ASSERT_TRUE(木.プログラムを置く(u"紺碧帳書"_qs));
         f = std::make_unique<frm紺碧帳>(s);
         f->画面読込([this] { s.出金情報初期化(); });
     }
@@ -28,6 +29,15 @@ class 入力画面試験 : public ::testing::Test {
         const 部品* p = f->画面.フォーカス();
         if (!p) return {};
         return p->添字 < 0 ? p->名前 : p->名前 + u"("_qs + QString::number(p->添字) + u")"_qs;
+    }
+    // The argument texts the report program was started with, in order.
+    QStringList 帳票起動記録() const {
+        QStringList 引数;
+        for (const auto& r : 基盤.起動済み) {
+            if (r.プログラム == 木.プログラムフォルダ() + u"/紺碧帳書"_qs)
+                引数 << r.引数.join(u'|');
+        }
+        return 引数;
     }
     // The header completed by staff 00003 through the staff commit, the focus left where it
     // was; the slip counts as unchanged afterwards, as a freshly loaded one.

@@ -12,7 +12,6 @@ class 画面命令 : public 入力画面試験 {
         入力画面試験::SetUp();
         if (HasFatalFailure()) return;
         f->停止 = [this] { ++停止回数; };
-        f->帳票要求 = [this](const QString& 区分, const QString& 鍵) { 帳票 << 区分 + 鍵; };
         // The register question is answered "register only".
         基盤.画面表示時 = [this](const QString& 名) {
             if (名 == u"msg印刷確認")
@@ -37,7 +36,10 @@ class 画面命令 : public 入力画面試験 {
         return 文;
     }
     int 停止回数 = 0;
-    QStringList 帳票;
+    // The report argument of the slip of that number, staff 00003, dated today.
+    static QString 引数(const QString& 区分, const QString& No) {
+        return u"000"_qs + 区分 + u"2025112020251120"_qs + No + No + u"00003000032"_qs;
+    }
 };
 
 TEST_F(画面命令, 新しい伝票の画面クリアは何も問わず日付を残す) {
@@ -106,14 +108,15 @@ TEST_F(画面命令, 印刷は問いにはいで要求しどの場合も離れ�
     基盤.回答.enqueue(応答::いいえ);
     f->画面.操作_クリック(c(u"btn_印刷"_qs));
     EXPECT_EQ(問い(), QStringList{u"印刷しますか?"_qs});
-    EXPECT_TRUE(帳票.isEmpty());
+    EXPECT_TRUE(帳票起動記録().isEmpty());
     EXPECT_EQ(焦点(), u"摘要(0)"_qs);
     f->画面.操作_クリック(c(u"btn_印刷"_qs));
-    EXPECT_EQ(帳票, QStringList{u"0000"_qs + s.見出し.番号基準日付 + No});
+    EXPECT_EQ(帳票起動記録(), QStringList{引数(u"0"_qs, No)});
+    EXPECT_EQ(基盤.起動済み.last().作業フォルダ, 木.プログラムフォルダ());
     EXPECT_EQ(焦点(), u"摘要(0)"_qs);
     f->画面.操作_クリック(c(u"btn_プレビュ"_qs));
     EXPECT_EQ(問い().last(), u"プレビュしますか?"_qs);
-    EXPECT_EQ(帳票.last(), u"1000"_qs + s.見出し.番号基準日付 + No);
+    EXPECT_EQ(帳票起動記録().last(), 引数(u"1"_qs, No));
 }
 
 TEST_F(画面命令, PDF出力の後は一秒半ほど待って書類の一覧を読み直す) {
@@ -127,7 +130,7 @@ TEST_F(画面命令, PDF出力の後は一秒半ほど待って書類の一覧�
     const int 前 = 基盤.イベント処理回数;
     f->画面.操作_クリック(c(u"btn_帳票イメージ出力"_qs));
     EXPECT_EQ(問い(), QStringList{u"PDFを作成しますか?"_qs});
-    EXPECT_EQ(帳票, QStringList{u"3000"_qs + s.見出し.番号基準日付 + No});
+    EXPECT_EQ(帳票起動記録(), QStringList{引数(u"3"_qs, No)});
     EXPECT_EQ(基盤.待機合計, 1510);
     EXPECT_EQ(基盤.イベント処理回数 - 前, 151);
 }

@@ -30,7 +30,6 @@ class 登録処理 : public 入力画面試験 {
     int 伝票数() { return 木.業務DB行(u"SELECT COUNT(*) FROM T出金"_qs)[0][0].toInt(); }
     QString 質問の文, 質問の題, 質問の焦点;
     int 質問の色 = 0;
-    QStringList 印刷;
 };
 
 TEST_F(登録処理, 備考Bを抜けると問いが出て登録のみで保存し次の新規伝票で担当者に立つ) {
@@ -85,17 +84,16 @@ TEST_F(登録処理, 枠で閉じた問いはいいえと同じ) {
 
 TEST_F(登録処理, 登録と印刷は権限があれば消す前の伝票を印刷に回す) {
     答える(u"btn_登録印刷"_qs);
-    f->帳票要求 = [this](const QString& 区分, const QString& 鍵) { 印刷 << 区分 + 鍵; };
     打って備考Bを抜ける();
     EXPECT_EQ(伝票数(), 1);
-    EXPECT_EQ(印刷, QStringList{u"00002026033100000001"_qs});
+    EXPECT_EQ(帳票起動記録(),
+              QStringList{u"0000202511202025112000000001000000010000300003"_qs + u"2"_qs});
 }
 
 TEST_F(登録処理, 登録のみは印刷しない) {
     答える(u"btn_登録"_qs);
-    f->帳票要求 = [this](const QString& 区分, const QString& 鍵) { 印刷 << 区分 + 鍵; };
     打って備考Bを抜ける();
-    EXPECT_TRUE(印刷.isEmpty());
+    EXPECT_TRUE(帳票起動記録().isEmpty());
 }
 
 TEST_F(登録処理, 登録釦でも同じ流れになり保存した伝票を呼ぶと修正の問いが赤で出る) {
@@ -195,10 +193,9 @@ class 印刷権限のない登録処理 : public 登録処理 {
 
 TEST_F(印刷権限のない登録処理, 登録と印刷は保存し印刷せず何も言わない) {
     答える(u"btn_登録印刷"_qs);
-    f->帳票要求 = [this](const QString& 区分, const QString& 鍵) { 印刷 << 区分 + 鍵; };
     打って備考Bを抜ける();
     EXPECT_EQ(伝票数(), 1);
-    EXPECT_TRUE(印刷.isEmpty());
+    EXPECT_TRUE(帳票起動記録().isEmpty());
     EXPECT_TRUE(基盤.表示文言().isEmpty());
     // The print right was asked for by the PIN window, which was closed unanswered.
     EXPECT_TRUE(基盤.表示画面.contains({u"msg暗証番号確認"_qs, true}));
