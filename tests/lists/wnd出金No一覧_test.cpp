@@ -213,6 +213,6 @@ TEST_P(出金No一覧, 担当者コードでCtrlを押すと担当者一覧が�
     開く();
 }
 
-KONPEKI_一覧両エンジン(出金No一覧);
+KONPEKI_両エンジンで(出金No一覧);
 
 }  // namespace

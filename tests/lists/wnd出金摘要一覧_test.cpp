@@ -125,6 +125,6 @@ TEST_P(出金摘要一覧, 選ぶと鍵が返り窓は閉じ費目区分に文�
     EXPECT_TRUE(c(u"費目区分"_qs, 0).Text.isEmpty());
 }
 
-KONPEKI_一覧両エンジン(出金摘要一覧);
+KONPEKI_両エンジンで(出金摘要一覧);
 
 }  // namespace

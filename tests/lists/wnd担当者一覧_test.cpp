@@ -447,6 +447,6 @@ TEST_P(担当者一覧, 検索中に業務データベースが無くなって�
     EXPECT_TRUE(記録);
 }
 
-KONPEKI_一覧両エンジン(担当者一覧);
+KONPEKI_両エンジンで(担当者一覧);
 
 }  // namespace

@@ -94,6 +94,6 @@ TEST_P(部門一覧, 担当者一覧からCtrlで二度開くと前と同じ行�
     EXPECT_EQ(基盤.隠した画面.count(u"wnd部門一覧"_qs), 2);
 }
 
-KONPEKI_一覧両エンジン(部門一覧);
+KONPEKI_両エンジンで(部門一覧);
 
 }  // namespace

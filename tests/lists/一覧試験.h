@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 
+#include "common/エンジン別試験.h"
 #include "common/出金準備.h"
 #include "common/文字列表示.h"
 #include "common/試験用ツリー.h"
@@ -15,15 +16,11 @@
 
 // The entry screen with its list windows on the sample tree, the general database in SQLite or
 // in PostgreSQL. What an operator does in a list window while it is up is given per window.
-class 一覧試験 : public ::testing::TestWithParam<bool> {
+class 一覧試験 : public エンジン別試験 {
   protected:
     void SetUp() override {
-        if (GetParam()) {
-            if (!試験用PostgreSQL::利用可能()) GTEST_SKIP() << "KONPEKI_TEST_PG is not set";
-            pg = std::make_unique<試験用PostgreSQL>();
-        }
-        木 = std::make_unique<試験用ツリー>(pg ? pg->接続情報() : QString());
-        ASSERT_TRUE(木->作成済み) << 木->エラー.toStdString();
+        エンジン別試験::SetUp();
+        if (HasFatalFailure() || IsSkipped()) return;
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
     }
 
@@ -66,15 +63,9 @@ class 一覧試験 : public ::testing::TestWithParam<bool> {
             部門 + u"', '"_qs + セクション + u"', '1', '"_qs + 在籍 + u"')"_qs);
     }
 
-    std::unique_ptr<試験用PostgreSQL> pg;
-    std::unique_ptr<試験用ツリー> 木;
-    台本プラットフォーム 基盤;
     出金セッション s{基盤};
     std::unique_ptr<frm紺碧帳> f;
     std::unique_ptr<一覧画面集> 集;
     QHash<QString, std::function<void(一覧画面&)>> 操作;
 };
 
-#define KONPEKI_一覧両エンジン(fixture)                                         \
-    INSTANTIATE_TEST_SUITE_P(エンジン, fixture, ::testing::Values(false, true), \
-                             [](const auto& i) { return i.param ? "PostgreSQL" : "SQLite"; })
