@@ -63,7 +63,7 @@ class 一覧画面 {
     部品& 一覧();
 
   protected:
-    // The window's own parts: its statement for the current search, its list view, how many
+    // What each window brings: its statement for the current search, its list view, how many
     // rows one search shows (0: all), and how a row becomes a list item.
     virtual QString 検索文作成() = 0;
     virtual int 行上限() const { return 1000; }

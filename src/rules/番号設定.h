@@ -13,15 +13,15 @@ class プラットフォーム;
 struct 会社情報;
 
 // Values of the number tables that the other programs of the suite read the same way.
-namespace 番号定数 {
-inline constexpr QStringView 永続基準日付 = u"99999999";  // kind 0; as a date argument: today
-inline constexpr QStringView 手入力基準日付 = u"88888888";
-inline constexpr QStringView 番号なし = u"00000000";  // no A番号情報 row; also a fresh counter
-inline constexpr QStringView 最初の番号 = u"00000001";
-inline constexpr QStringView 出金番号ID = u"16810";
-inline constexpr QStringView 閲覧番号ID = u"01110";
-inline constexpr QStringView 出張申請番号ID = u"72150";
-}  // namespace 番号定数
+struct 番号定数 {
+    static constexpr QStringView 永続基準日付 = u"99999999";  // kind 0; as a date argument: today
+    static constexpr QStringView 手入力基準日付 = u"88888888";
+    static constexpr QStringView 番号なし = u"00000000";  // no A番号情報 row; also a fresh counter
+    static constexpr QStringView 最初の番号 = u"00000001";
+    static constexpr QStringView 出金番号ID = u"16810";
+    static constexpr QStringView 閲覧番号ID = u"01110";
+    static constexpr QStringView 出張申請番号ID = u"72150";
+};
 
 // Shown when a number ID has no A番号情報 row.
 inline constexpr QStringView 番号情報エラー文言 = u"番号情報に問題が発生設定できませんでした。";

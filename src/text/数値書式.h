@@ -9,17 +9,17 @@
 #include "text/金額.h"
 
 // The number masks the system writes with.
-namespace 数値書式 {
-inline constexpr QStringView 金額列 = u"##########0";      // money and taxes written into SQL
-inline constexpr QStringView 税率列 = u"##0.00";           // rates written into SQL
-inline constexpr QStringView 一覧金額 = u"#,###,###,##0";  // money in the slip list
-inline constexpr QStringView 百分率 = u"##0";              // whole percent and day counts
-inline constexpr QStringView 付属書類金額 = u"###########0";
-inline constexpr QStringView キロバイト = u"###,###,##0";  // a file's size, followed by "KB"
-inline constexpr QStringView 区分値 = u"0";                // class values in conditions
-inline constexpr QStringView 三桁 = u"000";                // line numbers, office codes
-inline constexpr QStringView 八桁 = u"00000000";           // slip and application numbers
-}  // namespace 数値書式
+struct 数値書式 {
+    static constexpr QStringView 金額列 = u"##########0";      // money and taxes written into SQL
+    static constexpr QStringView 税率列 = u"##0.00";           // rates written into SQL
+    static constexpr QStringView 一覧金額 = u"#,###,###,##0";  // money in the slip list
+    static constexpr QStringView 百分率 = u"##0";              // whole percent and day counts
+    static constexpr QStringView 付属書類金額 = u"###########0";
+    static constexpr QStringView キロバイト = u"###,###,##0";  // a file's size, followed by "KB"
+    static constexpr QStringView 区分値 = u"0";                // class values in conditions
+    static constexpr QStringView 三桁 = u"000";                // line numbers, office codes
+    static constexpr QStringView 八桁 = u"00000000";           // slip and application numbers
+};
 
 // A number written by a mask of one section:
 //   "0"  a digit that is always written, "#" a digit written only when significant;

@@ -68,4 +68,3 @@ class 一覧試験 : public エンジン別試験 {
     std::unique_ptr<一覧画面集> 集;
     QHash<QString, std::function<void(一覧画面&)>> 操作;
 };
-
