@@ -10,10 +10,6 @@
 
 namespace {
 
-double ミリ秒(const QElapsedTimer& t) {
-    return t.nsecsElapsed() / 1e6;
-}
-
 // The same statement read raw, every column of up to 1000 rows as text.
 double 直接(const QSqlDatabase& db, const QString& 文, int& 件数) {
     QElapsedTimer t;

@@ -31,10 +31,6 @@ QString 大量伝票の木(int 件数) {
 
 namespace {
 
-double ミリ秒(const QElapsedTimer& t) {
-    return t.nsecsElapsed() / 1e6;
-}
-
 void 計測一式(int 件数) {
     const QString 根 = 大量伝票の木(件数);
     if (根.isEmpty()) return;

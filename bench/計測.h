@@ -1,9 +1,14 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QString>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <vector>
+
+inline double ミリ秒(const QElapsedTimer& t) {
+    return t.nsecsElapsed() / 1e6;
+}
 
 // Prints one figure as "name: median (min .. max) unit" over the given samples.
 void 結果表示(const char* 名前, std::vector<double> 標本, const char* 単位);

@@ -169,6 +169,13 @@ QString 一覧画面::条件取出(const QString& 項目名) {
     return 条件値取出(項目名, 元, s.一覧条件文字列);
 }
 
+void 一覧画面::コード取出(const QString& 欄名, const QString& 項目名) {
+    const 条件欄& e = *欄(欄名);
+    const QString 値 = 条件取出(項目名);
+    条件[欄名] = 値;
+    if (!e.名称欄.isEmpty()) 条件[e.名称欄] = 値.isEmpty() ? QString() : 名称検索(e, 値);
+}
+
 QString 一覧画面::名称検索(const 条件欄& 欄, const QString& コード) {
     記録集合 rs;
     QString 名称;

@@ -82,6 +82,8 @@ class 一覧画面 {
     void 列作成(const QList<一覧列>& 列);
     // Takes a preset field's value out of 一覧条件文字列; empty when the caller did not name it.
     QString 条件取出(const QString& 項目名);
+    // A preset code field: its value taken out of the caller's condition, and its name looked up.
+    void コード取出(const QString& 欄名, const QString& 項目名);
     QString 名称検索(const 条件欄& 欄, const QString& コード);
     const 条件欄* 欄(const QString& 名前) const;
     // The first opening after the fields are filled: show them, search, select nothing.
