@@ -106,56 +106,41 @@ bool SQLフォルダ実行(データ接続& 接続, const QString& フォルダ,
     return 先;
 }
 
-bool ツリー作成(const ツリー作成指定& 指定, QString& エラー) {
-    const QString 根 = QDir(指定.根).absolutePath();
-    for (const char16_t* 名 :
-         {u"prgbin", u"conf", u"report", u"manual", u"data", u"users", u"documents"}) {
+namespace {
+
+bool フォルダを作る(const QString& 根, std::initializer_list<const char16_t*> 名前,
+                    QString& エラー) {
+    for (const char16_t* 名 : 名前) {
         if (!QDir().mkpath(根 + u"/"_qs + QString::fromUtf16(名))) {
             エラー = 根 + u": フォルダを作成できません"_qs;
             return false;
         }
     }
-    // The operator's manual of the sample company, named as the program opens it.
-    const QDir 手引き(指定.スキーマフォルダ + u"/seed/manual"_qs);
-    for (const QString& 名 : 手引き.entryList(QDir::Files)) {
-        const QString 先 = 根 + u"/manual/"_qs + 名;
-        QFile::remove(先);
-        if (!QFile::copy(手引き.filePath(名), 先)) {
-            エラー = 手引き.filePath(名) + u": 複写できません"_qs;
-            return false;
-        }
-    }
-    for (const QString& プログラム : 指定.複写プログラム) {
-        const QString 先 = 根 + u"/prgbin/"_qs + QFileInfo(プログラム).fileName();
-        QFile::remove(先);
-        if (!QFile::copy(プログラム, 先)) {
-            エラー = プログラム + u": 複写できません"_qs;
-            return false;
-        }
-    }
+    return true;
+}
 
-    const QString 環境DB = 根 + u"/conf/usrcnfg.db"_qs;
+// The configuration file of a tree, and its general database in the file given or on the
+// server; the 'GNR' row of the configuration then points at the general database.
+bool 二つのデータベースを作る(const QString& 環境DB, const QString& 業務DB,
+                              const QString& PostgreSQL接続情報, const QString& スキーマ,
+                              const QString& 業務の種類, QString& エラー) {
     if (!空のSQLiteを作る(環境DB, エラー)) return false;
     データ接続 環境(u"tree-conf"_qs);
     接続先 環境先;
     環境先.ファイル = 環境DB;
-    if (!データベースを作る(環境, 環境先, 指定.スキーマフォルダ, u"config"_qs, エラー))
-        return false;
+    if (!データベースを作る(環境, 環境先, スキーマ, u"config"_qs, エラー)) return false;
 
     データ接続 業務(u"tree-gnr"_qs);
     QString 定義;
-    if (指定.PostgreSQL接続情報.isEmpty()) {
-        const QString 業務DB = 根 + u"/data/gnrdb.db"_qs;
+    if (PostgreSQL接続情報.isEmpty()) {
         if (!空のSQLiteを作る(業務DB, エラー)) return false;
         接続先 先;
         先.ファイル = 業務DB;
-        if (!データベースを作る(業務, 先, 指定.スキーマフォルダ, u"general"_qs, エラー))
-            return false;
+        if (!データベースを作る(業務, 先, スキーマ, 業務の種類, エラー)) return false;
         定義 = u"UPDATE データベース定義 SET db = 'A', データソース名 = "_qs + 引用(業務DB);
     } else {
-        const 接続先 先 = PostgreSQL接続先(指定.PostgreSQL接続情報);
-        if (!データベースを作る(業務, 先, 指定.スキーマフォルダ, u"general"_qs, エラー))
-            return false;
+        const 接続先 先 = PostgreSQL接続先(PostgreSQL接続情報);
+        if (!データベースを作る(業務, 先, スキーマ, 業務の種類, エラー)) return false;
         const QString サーバー =
             先.ポート > 0 ? 先.ホスト + u":"_qs + QString::number(先.ポート) : 先.ホスト;
         定義 = u"UPDATE データベース定義 SET db = 'P', サーバー名 = "_qs + 引用(サーバー) +
@@ -167,9 +152,72 @@ bool ツリー作成(const ツリー作成指定& 指定, QString& エラー) {
         エラー = 環境.最終エラー().説明;
         return false;
     }
+    return true;
+}
+
+bool 複写する(const QString& 元, const QString& 先, QString& エラー) {
+    QFile::remove(先);
+    if (QFile::copy(元, 先)) return true;
+    エラー = 元 + u": 複写できません"_qs;
+    return false;
+}
+
+}  // namespace
+
+bool ツリー作成(const ツリー作成指定& 指定, QString& エラー) {
+    const QString 根 = QDir(指定.根).absolutePath();
+    if (!フォルダを作る(根,
+                        {u"prgbin", u"conf", u"report", u"manual", u"data", u"users", u"documents"},
+                        エラー)) {
+        return false;
+    }
+    // The operator's manual of the sample company, named as the program opens it.
+    const QDir 手引き(指定.スキーマフォルダ + u"/seed/manual"_qs);
+    for (const QString& 名 : 手引き.entryList(QDir::Files)) {
+        if (!複写する(手引き.filePath(名), 根 + u"/manual/"_qs + 名, エラー)) return false;
+    }
+    for (const QString& プログラム : 指定.複写プログラム) {
+        const QString 先 = 根 + u"/prgbin/"_qs + QFileInfo(プログラム).fileName();
+        if (!複写する(プログラム, 先, エラー)) return false;
+    }
+    if (!二つのデータベースを作る(根 + u"/conf/usrcnfg.db"_qs, 根 + u"/data/gnrdb.db"_qs,
+                                  指定.PostgreSQL接続情報, 指定.スキーマフォルダ, u"general"_qs,
+                                  エラー)) {
+        return false;
+    }
+    データ接続 業務(u"tree-gnr"_qs);
+    接続先 業務先;
+    if (指定.PostgreSQL接続情報.isEmpty()) {
+        業務先.ファイル = 根 + u"/data/gnrdb.db"_qs;
+    } else {
+        業務先 = PostgreSQL接続先(指定.PostgreSQL接続情報);
+    }
+    if (!業務.開く(業務先)) {
+        エラー = 業務.最終エラー().説明;
+        return false;
+    }
     // The company keeps its attached documents and PDFs of slips inside the tree.
-    if (!業務.実行(u"UPDATE Mユーザ SET ドキュメントフォルダ = "_qs + 引用(根 + u"/documents"_qs) +
-                   u" WHERE ID = '0001'"_qs)) {
+    QString 文 = u"UPDATE Mユーザ SET ドキュメントフォルダ = "_qs + 引用(根 + u"/documents"_qs) +
+                 u" WHERE ID = '0001'"_qs;
+    if (!業務.実行(文)) {
+        エラー = 業務.最終エラー().説明;
+        return false;
+    }
+    if (指定.人事根.isEmpty()) return true;
+
+    // The HR system 白樺 in a tree of its own, its files of the second kind only, and the
+    // company's link slot for it switched on.
+    const QString 人事 = QDir(指定.人事根).absolutePath();
+    if (!フォルダを作る(人事, {u"prgbin", u"conf", u"report", u"manual", u"data", u"users"},
+                        エラー) ||
+        !二つのデータベースを作る(人事 + u"/conf/usrcnfg.sqlite"_qs,
+                                  人事 + u"/data/gnrdb.sqlite"_qs, 指定.人事PostgreSQL接続情報,
+                                  指定.スキーマフォルダ, u"hrlink"_qs, エラー)) {
+        return false;
+    }
+    文 = u"UPDATE M他業務連携 SET 連携有無区分 = 1, 連携アプリフォルダ = "_qs + 引用(人事) +
+         u" WHERE コード = '002'"_qs;
+    if (!業務.実行(文)) {
         エラー = 業務.最終エラー().説明;
         return false;
     }

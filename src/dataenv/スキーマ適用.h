@@ -17,6 +17,10 @@ struct ツリー作成指定 {
     QString スキーマフォルダ;
     QString PostgreSQL接続情報;  // empty: SQLite
     QStringList 複写プログラム;  // files copied into prgbin
+    // Not empty: the HR system 白樺 gets a tree of its own there, linked from this one, with
+    // its general database in a SQLite file or in the PostgreSQL database given.
+    QString 人事根;
+    QString 人事PostgreSQL接続情報;
 };
 
 // Builds a complete folder tree with its databases and the sample company.

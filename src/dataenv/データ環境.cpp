@@ -1,6 +1,7 @@
 #include "dataenv/データ環境.h"
 
 #include "dataenv/Access環境設定.h"
+#include "dataenv/データベース定義.h"
 #include "dataenv/ファイル操作.h"
 #include "text/プラットフォーム.h"
 
@@ -120,26 +121,11 @@ void データ環境::データベース定義読込() {
     記録集合 rs;
     if (環境DB検索(rs, u"SELECT * FROM データベース定義 WHERE 情報種類 = 'GNR'"_qs)) {
         // db and dbmw are taken as they stand: a Null there is a failed read.
-        for (const char16_t* 列 : {u"db", u"dbmw"}) {
-            if (rs.Null(QString::fromUtf16(列))) {
-                rs.閉じる();
-                throw 中断{{u"94"_qs, u"Null の使い方が不正です。"_qs}};
-            }
+        if (!データベース定義を写す(rs, 環境)) {
+            rs.閉じる();
+            throw 中断{{u"94"_qs, u"Null の使い方が不正です。"_qs}};
         }
-        auto& e = 環境;
-        e.db = rs.文字列(u"db"_qs).trimmed();
-        e.dbmw = rs.文字列(u"dbmw"_qs).trimmed();
-        const std::pair<const char16_t*, QString*> 列[] = {
-            {u"プロバイダ名", &e.プロバイダ名}, {u"データベース名", &e.データベース名},
-            {u"ドライバ名", &e.ドライバ名},     {u"ユーザーID", &e.ユーザーID},
-            {u"パスワード", &e.パスワード},     {u"データソース名", &e.データソース名},
-            {u"サーバー名", &e.サーバー名},     {u"接続文字列", &e.接続文字列},
-        };
-        for (const auto& [名, 値] : 列) {
-            const QString 列名 = QString::fromUtf16(名);
-            if (!rs.Null(列名)) *値 = rs.文字列(列名).trimmed();
-        }
-        if (e.db == u"A") e.Access業務DBパス = e.データソース名;
+        if (環境.db == u"A") 環境.Access業務DBパス = 環境.データソース名;
     }
     rs.閉じる();
 }
@@ -214,28 +200,8 @@ bool データ環境::Access環境設定() {
 }
 
 bool データ環境::DB_OPEN() {
-    const auto& e = 環境;
     接続先 先;
-    if (e.db == u"A") {
-        先.エンジン = 接続先::種類::SQLite;
-        先.ファイル = e.データソース名;
-    } else if (e.db == u"P") {
-        先.エンジン = 接続先::種類::PostgreSQL;
-        const qsizetype 区切り = e.サーバー名.lastIndexOf(u':');
-        先.ホスト = 区切り < 0 ? e.サーバー名 : e.サーバー名.left(区切り);
-        先.ポート = 区切り < 0 ? 0 : e.サーバー名.mid(区切り + 1).toInt();
-        先.データベース名 = e.データベース名;
-        先.ユーザー = e.ユーザーID;
-        先.パスワード = e.パスワード;
-    } else if (e.db == u"S" || e.db == u"O") {
-        先.エンジン = 接続先::種類::ODBC;
-        先.ユーザー = e.ユーザーID;
-        先.パスワード = e.パスワード;
-        先.ODBC接続文字列 = e.db == u"S"
-                                ? u"DRIVER={"_qs + e.プロバイダ名 + u"};SERVER="_qs + e.サーバー名 +
-                                      u";DATABASE="_qs + e.データベース名 + u";"_qs
-                                : u"DSN="_qs + e.データソース名 + u";"_qs;
-    } else {
+    if (!業務DB接続先(環境, 先)) {
         // Nothing is opened, yet the flag says open: the close at the end tries it anyway.
         業務DB接続中 = true;
         return true;
@@ -265,22 +231,40 @@ void データ環境::接続終了() {
     if (業務DB接続中) 業務接続.閉じる();
 }
 
-bool データ環境::業務DB検索(記録集合& 結果, const QString& 文, bool 履歴) {
-    if (!業務接続.検索(結果, 文)) {
-        エラー履歴書込(業務接続.最終エラー().説明 + 文);
+bool データ環境::記録付検索(データ接続* 接続, 記録集合& 結果, const QString& 文, bool 履歴) {
+    if (接続 == nullptr) {
+        // A link routine before any slot was chosen: the caller sees a failed statement.
+        結果.閉じる();
+        エラー履歴書込(u"連携先が選ばれていません。"_qs + 文);
+        return false;
+    }
+    if (!接続->検索(結果, 文)) {
+        エラー履歴書込(接続->最終エラー().説明 + 文);
         return false;
     }
     if (履歴) 出力履歴書込(文);
     return !結果.EOFか();
 }
 
-bool データ環境::業務DB実行(const QString& 文, bool 履歴) {
-    if (!業務接続.実行(文)) {
-        エラー履歴書込(業務接続.最終エラー().説明 + 文);
+bool データ環境::記録付実行(データ接続* 接続, const QString& 文, bool 履歴) {
+    if (接続 == nullptr) {
+        エラー履歴書込(u"連携先が選ばれていません。"_qs + 文);
+        return false;
+    }
+    if (!接続->実行(文)) {
+        エラー履歴書込(接続->最終エラー().説明 + 文);
         return false;
     }
     if (履歴) 出力履歴書込(文);
     return true;
+}
+
+bool データ環境::業務DB検索(記録集合& 結果, const QString& 文, bool 履歴) {
+    return 記録付検索(&業務接続, 結果, 文, 履歴);
+}
+
+bool データ環境::業務DB実行(const QString& 文, bool 履歴) {
+    return 記録付実行(&業務接続, 文, 履歴);
 }
 
 void データ環境::業務DB一括開始() {
@@ -294,19 +278,11 @@ void データ環境::業務DB一括終了() {
 }
 
 bool データ環境::環境DB検索(記録集合& 結果, const QString& 文) {
-    if (!環境接続.検索(結果, 文)) {
-        エラー履歴書込(環境接続.最終エラー().説明 + 文);
-        return false;
-    }
-    return !結果.EOFか();
+    return 記録付検索(&環境接続, 結果, 文, false);
 }
 
 bool データ環境::環境DB実行(const QString& 文) {
-    if (!環境接続.実行(文)) {
-        エラー履歴書込(環境接続.最終エラー().説明 + 文);
-        return false;
-    }
-    return true;
+    return 記録付実行(&環境接続, 文, false);
 }
 
 bool データ環境::環境DB実行記録付(const QString& 文) {

@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "dataenv/データ接続.h"
+#include "dataenv/人事連携.h"
 #include "dataenv/会社情報.h"
 #include "dataenv/操作権限.h"
 #include "dataenv/暗証解読部品.h"
@@ -91,6 +92,32 @@ class データ環境 {
     bool 条件項目名保存(const QString& 表名, const QString& プログラムID,
                         const QStringList& 項目名);
 
+    // The program link: what this run was started with, and what it answers at its end.
+    QString 発信元プログラムID;
+    QString 受信起動連携情報;  // not empty: a sibling program waits for this run's answer
+    QString 終了時連携情報;
+    // Finds and takes out this run's request, sent no earlier than the time given.
+    void 他プログラム連携受信(const QString& 起動連携情報, const QString& 最早日時);
+    // Writes the answer row and reopens the configuration connection.
+    void 他プログラム連携発信(const QString& 終了連携情報);
+
+    // The HR link: the slot in use of M他業務連携, and a second pair of connections per slot.
+    short 連携スロット番号 = -1;
+    連携スロット環境 連携[他業務連携情報::予約数];
+    bool 人事連携選択(const QString& 業務名);
+    bool 人事連携開始();
+    void 人事連携終了();
+    bool 連携SYB_OPEN();
+    bool 連携DB_OPEN();
+    // As their twins of the general and configuration connections; the general side writes its
+    // history rows to this run's own configuration database.
+    bool 連携DB検索(記録集合& 結果, const QString& 文, bool 履歴 = false);
+    bool 連携DB実行(const QString& 文, bool 履歴 = false);
+    bool 連携環境DB検索(記録集合& 結果, const QString& 文);
+    bool 連携環境DB実行(const QString& 文);
+    // The link's connections of the slot in use; none before a slot is chosen.
+    連携スロット環境* 連携先();
+
     データ接続& 環境DB() { return 環境接続; }
     データ接続& 業務DB() { return 業務接続; }
 
@@ -103,6 +130,14 @@ class データ環境 {
     bool 環境DBを開く(const QString& フォルダ);
     接続先 環境DB接続先(const QString& フォルダ) const;
     void 履歴書込(const QString& 摘要);
+    // A statement on one of the connections, its failure in the run history.
+    bool 記録付検索(データ接続* 接続, 記録集合& 結果, const QString& 文, bool 履歴);
+    bool 記録付実行(データ接続* 接続, const QString& 文, bool 履歴);
+    // The request look-up and the answer of the program link, on either side of the HR link.
+    void 連携要求受信(bool 人事側, const QString& 起動連携情報, const QString& 最早日時);
+    void 連携応答発信(bool 人事側, const QString& 起動連携情報, const QString& 終了連携情報);
+    void 連携利用者別環境準備();
+    void 連携定義読込(連携スロット環境& L);
 
     平文暗証解読 平文解読;
     データ接続 環境接続{u"conf"_qs};

@@ -2,9 +2,23 @@
 
 #include <QString>
 
+// The row 'GNR' of データベース定義: which engine holds a general database, and how to reach it.
+struct データベース定義値 {
+    QString db;
+    QString dbmw;
+    QString プロバイダ名;
+    QString データベース名;
+    QString ドライバ名;
+    QString ユーザーID;
+    QString パスワード;
+    QString データソース名;
+    QString サーバー名;
+    QString 接続文字列;
+};
+
 // Where the program stands and what the configuration database says of its surroundings.
 // Set once at start; only the office code changes later.
-struct プログラム環境情報 {
+struct プログラム環境情報 : データベース定義値 {
     // The tree
     QString ルートフォルダ;
     QString プログラムフォルダ;
@@ -25,17 +39,6 @@ struct プログラム環境情報 {
     QString 端末利用者名;
     QString 端末名;
 
-    // データベース定義, row 'GNR'
-    QString db;
-    QString dbmw;
-    QString プロバイダ名;
-    QString データベース名;
-    QString ドライバ名;
-    QString ユーザーID;
-    QString パスワード;
-    QString データソース名;
-    QString サーバー名;
-    QString 接続文字列;
     QString Access業務DBパス;
 
     // 動作環境定義, row '001'

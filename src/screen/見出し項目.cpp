@@ -90,10 +90,10 @@ QString 番号一覧条件(const 画面モデル& 画面, const QString& 表, co
     return 条件;
 }
 
-// The HR link's program folder. This build reads no HR link folder yet, so none is known and
-// the trip application program is never started.
-QString 人事連携プログラムフォルダ(const 出金セッション&) {
-    return {};
+// The programs folder of the HR link's slot in use; none without the link.
+QString 人事連携プログラムフォルダ(出金セッション& s) {
+    const 連携スロット環境* L = s.白樺連携フラグ ? s.データ.連携先() : nullptr;
+    return L ? L->プログラムフォルダ : QString();
 }
 
 }  // namespace

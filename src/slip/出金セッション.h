@@ -127,10 +127,6 @@ class 出金セッション {
     QString 一覧呼出元画面;
     int 一覧入れ子区分 = 0;
 
-    // The program link: what this run was started with, and what it answers at its end.
-    QString 受信起動連携情報;
-    QString 終了時連携情報;
-
     // Clearing the slip in memory.
     void 出金情報初期化();
     void 出金見出し初期化();

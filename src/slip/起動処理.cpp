@@ -20,11 +20,11 @@
         終了処理();
         return 起動結果::停止;
     }
-    s.白樺連携フラグ = 人事連携選択(u"白樺"_qs);
-    if (s.白樺連携フラグ && !人事連携開始()) {
+    s.白樺連携フラグ = s.データ.人事連携選択(u"白樺"_qs);
+    if (s.白樺連携フラグ && !s.データ.人事連携開始()) {
         // Deliberately no 終了処理 here: this path leaves no end row.
         基盤.メッセージ(u"白樺連携データベースが使用できません。"_qs);
-        人事連携終了();
+        s.データ.人事連携終了();
         return 起動結果::停止;
     }
     連携条件項目登録(u"翠嶺"_qs, u"紺碧帳"_qs);
@@ -72,6 +72,8 @@ bool 紺碧帳起動::データベース開始() {
     データ環境& d = s.データ;
     if (!d.SYB_OPEN()) return false;
     d.開始履歴書込();
+    d.他プログラム連携受信(d.コマンドライン.trimmed(),
+                           d.基盤.現在時刻().addSecs(-60).toString(u"yyyyMMdd HHmmss"_qs));
     // Only the suite's menu program keeps the configuration database's tables short.
     if (d.プログラムID == u"翠嶺") d.環境情報整理();
     return d.DB_OPEN();
@@ -160,33 +162,15 @@ void 紺碧帳起動::連携条件項目登録(const QString& メニュー名, c
                             {u"事業所コード"_qs, u"番号基準日付"_qs, u"出金No"_qs});
 }
 
-bool 紺碧帳起動::人事連携選択(const QString& 業務名) {
-    const auto& 連携 = s.データ.他業務連携;
-    for (short i = 0; i < 連携.スロット数; ++i) {
-        if (連携.スロット[i].業務名 == 業務名 && 連携.スロット[i].連携有無区分 == 1) {
-            連携スロット番号 = i;
-            return true;
-        }
-    }
-    return false;
-}
-
-bool 紺碧帳起動::人事連携開始() {
-    // The HR system's own databases cannot be reached by this build yet, so a configured link
-    // takes the path of a link database that does not open.
-    return false;
-}
-
-void 紺碧帳起動::人事連携終了() {}
-
 void 紺碧帳起動::終了処理() {
-    // The answer row to a waiting link request is written here once program links are read.
-    s.データ.終了履歴書込();
-    s.データ.接続終了();
+    データ環境& d = s.データ;
+    if (!d.受信起動連携情報.isEmpty()) d.他プログラム連携発信(d.終了時連携情報);
+    d.終了履歴書込();
+    d.接続終了();
 }
 
 void 紺碧帳起動::停止処理() {
     ウィンドウプロシージャ復元();
     終了処理();
-    if (s.白樺連携フラグ) 人事連携終了();
+    if (s.白樺連携フラグ) s.データ.人事連携終了();
 }

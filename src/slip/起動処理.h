@@ -54,11 +54,7 @@ class 紺碧帳起動 {
   private:
     // The slip date from the clock, its parts and the whole; nothing derived yet.
     void 今日の出金日付();
-    bool 人事連携選択(const QString& 業務名);
-    bool 人事連携開始();
-    void 人事連携終了();
 
     出金セッション& s;
     入力画面& 画面;
-    short 連携スロット番号 = -1;
 };

@@ -35,36 +35,69 @@ bool 試験用PostgreSQL::利用可能() {
     }
 }
 
-試験用ツリー::試験用ツリー(const QString& PostgreSQL接続情報) : PG情報(PostgreSQL接続情報) {
+試験用ツリー::試験用ツリー(const QString& PostgreSQL接続情報)
+    : 試験用ツリー(PostgreSQL接続情報, false) {}
+
+試験用ツリー::試験用ツリー(const QString& PostgreSQL接続情報, bool 人事あり, const QString& 人事PG)
+    : PG情報(PostgreSQL接続情報), 人事PG情報(人事PG) {
     ツリー作成指定 指定;
     指定.根 = 一時.path();
     指定.スキーマフォルダ = QStringLiteral(KONPEKI_SCHEMA_DIR);
     指定.PostgreSQL接続情報 = PostgreSQL接続情報;
+    if (人事あり) {
+        指定.人事根 = 人事根();
+        指定.人事PostgreSQL接続情報 = 人事PG;
+    }
     作成済み = ツリー作成(指定, エラー);
 }
 
-データ接続& 試験用ツリー::環境() {
-    if (!環境接続) {
-        環境接続 = std::make_unique<データ接続>(u"test-conf"_qs);
+namespace {
+
+// One connection per database, opened at its first use.
+データ接続& 開いて使う(std::unique_ptr<データ接続>& 接続, const QString& 用途,
+                       const QString& ファイル, const QString& PG) {
+    if (!接続) {
+        接続 = std::make_unique<データ接続>(用途);
         接続先 先;
-        先.ファイル = 環境DB();
-        環境接続->開く(先);
+        if (PG.isEmpty()) {
+            先.ファイル = ファイル;
+        } else {
+            先 = PostgreSQL接続先(PG);
+        }
+        接続->開く(先);
     }
-    return *環境接続;
+    return *接続;
+}
+
+}  // namespace
+
+データ接続& 試験用ツリー::環境() {
+    return 開いて使う(環境接続, u"test-conf"_qs, 環境DB(), {});
 }
 
 データ接続& 試験用ツリー::業務() {
-    if (!業務接続) {
-        業務接続 = std::make_unique<データ接続>(u"test-gnr"_qs);
-        接続先 先;
-        if (PG情報.isEmpty()) {
-            先.ファイル = 業務DB();
-        } else {
-            先 = PostgreSQL接続先(PG情報);
-        }
-        業務接続->開く(先);
-    }
-    return *業務接続;
+    return 開いて使う(業務接続, u"test-gnr"_qs, 業務DB(), PG情報);
+}
+
+データ接続& 試験用ツリー::人事環境() {
+    return 開いて使う(人事環境接続, u"test-hr-conf"_qs, 人事根() + u"/conf/usrcnfg.sqlite"_qs, {});
+}
+
+データ接続& 試験用ツリー::人事() {
+    return 開いて使う(人事接続, u"test-hr-gnr"_qs, 人事根() + u"/data/gnrdb.sqlite"_qs, 人事PG情報);
+}
+
+bool 試験用ツリー::人事環境DB実行(const QString& 文) {
+    return 人事環境().実行(文);
+}
+bool 試験用ツリー::人事DB実行(const QString& 文) {
+    return 人事().実行(文);
+}
+QList<QVariantList> 試験用ツリー::人事環境DB行(const QString& 文) {
+    return 全行(人事環境(), 文);
+}
+QList<QVariantList> 試験用ツリー::人事DB行(const QString& 文) {
+    return 全行(人事(), 文);
 }
 
 bool 試験用ツリー::環境DB実行(const QString& 文) {

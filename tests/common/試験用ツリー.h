@@ -28,10 +28,14 @@ class 試験用PostgreSQL {
 class 試験用ツリー {
   public:
     explicit 試験用ツリー(const QString& PostgreSQL接続情報 = {});
+    // With the HR system's tree at 人事根(), linked from the company; its general database on
+    // the PostgreSQL database given, or in a SQLite file.
+    試験用ツリー(const QString& PostgreSQL接続情報, bool 人事あり, const QString& 人事PG = {});
     QString 根() const { return 一時.path(); }
     QString プログラムフォルダ() const { return 根() + u"/prgbin"_qs; }
     QString 環境DB() const { return 根() + u"/conf/usrcnfg.db"_qs; }
     QString 業務DB() const { return 根() + u"/data/gnrdb.db"_qs; }
+    QString 人事根() const { return 根() + u"/白樺"_qs; }
     bool 作成済み = false;
     QString エラー;
 
@@ -45,14 +49,21 @@ class 試験用ツリー {
     // All rows of a query, each row as its column values in order.
     QList<QVariantList> 環境DB行(const QString& 文);
     QList<QVariantList> 業務DB行(const QString& 文);
+    // The same on the HR system's configuration and general databases.
+    bool 人事環境DB実行(const QString& 文);
+    bool 人事DB実行(const QString& 文);
+    QList<QVariantList> 人事環境DB行(const QString& 文);
+    QList<QVariantList> 人事DB行(const QString& 文);
 
   private:
     データ接続& 環境();
     データ接続& 業務();
+    データ接続& 人事環境();
+    データ接続& 人事();
 
     QTemporaryDir 一時;
-    QString PG情報;
-    std::unique_ptr<データ接続> 環境接続, 業務接続;
+    QString PG情報, 人事PG情報;
+    std::unique_ptr<データ接続> 環境接続, 業務接続, 人事環境接続, 人事接続;
 };
 
 QList<QVariantList> 全行(データ接続& 接続, const QString& 文);

@@ -157,7 +157,11 @@ TEST_F(起動, 白樺の連携が開けなければ知らせて止まり終了�
     ASSERT_TRUE(木.業務DB実行(
         u"UPDATE M他業務連携 SET 業務名 = '白樺', 連携有無区分 = 1, 連携アプリフォルダ = '/nowhere' WHERE コード = '003'"_qs));
     ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
-    EXPECT_EQ(基盤.表示文言(), QStringList{u"白樺連携データベースが使用できません。"_qs});
+    // The link's configuration is missing: its own message comes first.
+    const QStringList 文言 = 基盤.表示文言();
+    ASSERT_EQ(文言.size(), 2);
+    EXPECT_TRUE(文言[0].startsWith(u"連携syb_open ERROR"_qs));
+    EXPECT_EQ(文言[1], u"白樺連携データベースが使用できません。"_qs);
     EXPECT_EQ(履歴(), QStringList{u"000000000001 開始 "_qs});
     EXPECT_TRUE(s.白樺連携フラグ);
 }
