@@ -28,10 +28,7 @@ class エンジン別試験 : public ::testing::TestWithParam<bool> {
         ASSERT_TRUE(環境.DB_OPEN());
     }
 
-    QList<QVariantList> 履歴() {
-        return 木->環境DB行(
-            u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs);
-    }
+    QList<QVariantList> 履歴() { return 木->稼動履歴(); }
 
     std::unique_ptr<試験用PostgreSQL> pg;
     std::unique_ptr<試験用ツリー> 木;

@@ -25,18 +25,18 @@ class 人事連携試験 : public ::testing::TestWithParam<bool> {
 
     // Opens the company's databases and the HR link as the program's start does.
     void 開く() {
+        自社を開いて連携を選ぶ();
+        ASSERT_TRUE(環境.人事連携開始());
+    }
+    void 自社を開いて連携を選ぶ() {
         環境.自身のフォルダ = 木->プログラムフォルダ();
         ASSERT_TRUE(環境.SYB_OPEN());
         ASSERT_TRUE(環境.DB_OPEN());
         ASSERT_TRUE(環境.基本項目読込());
         ASSERT_TRUE(環境.人事連携選択(u"白樺"_qs));
-        ASSERT_TRUE(環境.人事連携開始());
     }
 
-    QList<QVariantList> 履歴() {
-        return 木->環境DB行(
-            u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs);
-    }
+    QList<QVariantList> 履歴() { return 木->稼動履歴(); }
 
     std::unique_ptr<試験用PostgreSQL> pg;
     std::unique_ptr<試験用ツリー> 木;

@@ -49,6 +49,11 @@ class 試験用ツリー {
     // All rows of a query, each row as its column values in order.
     QList<QVariantList> 環境DB行(const QString& 文);
     QList<QVariantList> 業務DB行(const QString& 文);
+    // The run history in its order: counter and text.
+    QList<QVariantList> 稼動履歴() {
+        return 環境DB行(
+            u"SELECT proccounter, 摘要 FROM プログラム稼動履歴 ORDER BY proccounter"_qs);
+    }
     // The same on the HR system's configuration and general databases.
     bool 人事環境DB実行(const QString& 文);
     bool 人事DB実行(const QString& 文);

@@ -85,11 +85,7 @@ TEST_P(人事連携, 白樺の一般データベースが無ければ開始は�
     } else {
         ASSERT_TRUE(QFile::remove(木->人事根() + u"/data/gnrdb.sqlite"_qs));
     }
-    環境.自身のフォルダ = 木->プログラムフォルダ();
-    ASSERT_TRUE(環境.SYB_OPEN());
-    ASSERT_TRUE(環境.DB_OPEN());
-    ASSERT_TRUE(環境.基本項目読込());
-    ASSERT_TRUE(環境.人事連携選択(u"白樺"_qs));
+    自社を開いて連携を選ぶ();
     EXPECT_FALSE(環境.人事連携開始());
     const QStringList 摘要 = 摘要一覧(履歴());
     ASSERT_FALSE(摘要.isEmpty());

@@ -151,44 +151,42 @@ TEST_F(プログラム連携, 要求の無い起動は答えを書かず何も�
 }
 
 // The HR system may start this program too, with its request in its own configuration.
-TEST(人事側の連携, 自社に要求が無ければ白樺の要求を取り答えは自社の表に書く) {
-    試験用ツリー 木(QString(), true);
-    ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
+class 人事側の連携 : public ::testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
+        基盤.時刻 = QDateTime(QDate(2026, 11, 23), QTime(10, 0, 0));
+        s.データ.自身のフォルダ = 木.プログラムフォルダ();
+        ASSERT_TRUE(連携要求を書く(木, u"20261123 095950"_qs, 鍵, u"白樺給与"_qs, true));
+    }
+    int 白樺の連携行() { return 木.人事環境DB行(u"SELECT * FROM プログラム連携情報"_qs).size(); }
+    試験用ツリー 木{QString(), true};
     台本プラットフォーム 基盤;
-    基盤.時刻 = QDateTime(QDate(2026, 11, 23), QTime(10, 0, 0));
-    ASSERT_TRUE(連携要求を書く(木, u"20261123 095950"_qs, 鍵, u"白樺給与"_qs, true));
-    出金セッション s(基盤);
-    s.データ.自身のフォルダ = 木.プログラムフォルダ();
+    出金セッション s{基盤};
     画面なし 画面;
-    紺碧帳起動 起動(s, 画面);
+    紺碧帳起動 起動{s, 画面};
+};
+
+TEST_F(人事側の連携, 自社に要求が無ければ白樺の要求を取り答えは自社の表に書く) {
     ASSERT_EQ(起動.プログラム開始(鍵), 起動結果::稼動);
     EXPECT_TRUE(s.白樺連携フラグ);
     EXPECT_EQ(s.データ.受信起動連携情報, 鍵);
     EXPECT_EQ(s.データ.発信元プログラムID, u"白樺給与"_qs);
-    EXPECT_TRUE(木.人事環境DB行(u"SELECT * FROM プログラム連携情報"_qs).isEmpty());
+    EXPECT_EQ(白樺の連携行(), 0);
     起動.停止処理();
     // Nothing answers on the HR side; the answer stands in this company's own table.
-    EXPECT_TRUE(木.人事環境DB行(u"SELECT * FROM プログラム連携情報"_qs).isEmpty());
+    EXPECT_EQ(白樺の連携行(), 0);
     const auto 答え = 木.環境DB行(
         u"SELECT 発信プログラムID, 起動連携情報 FROM プログラム連携情報 WHERE 連携区分 = '99'"_qs);
     ASSERT_EQ(答え.size(), 1);
     EXPECT_EQ(答え[0][0].toString(), u"白樺給与"_qs);
 }
 
-TEST(人事側の連携, 自社で要求を受けた起動は白樺の要求に触れない) {
-    試験用ツリー 木(QString(), true);
-    ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
-    台本プラットフォーム 基盤;
-    基盤.時刻 = QDateTime(QDate(2026, 11, 23), QTime(10, 0, 0));
+TEST_F(人事側の連携, 自社で要求を受けた起動は白樺の要求に触れない) {
     ASSERT_TRUE(連携要求を書く(木, u"20261123 095950"_qs, 鍵, u"翠嶺"_qs));
-    ASSERT_TRUE(連携要求を書く(木, u"20261123 095950"_qs, 鍵, u"白樺給与"_qs, true));
-    出金セッション s(基盤);
-    s.データ.自身のフォルダ = 木.プログラムフォルダ();
-    画面なし 画面;
-    紺碧帳起動 起動(s, 画面);
     ASSERT_EQ(起動.プログラム開始(鍵), 起動結果::稼動);
     EXPECT_EQ(s.データ.発信元プログラムID, u"翠嶺"_qs);
-    EXPECT_EQ(木.人事環境DB行(u"SELECT * FROM プログラム連携情報"_qs).size(), 1);
+    EXPECT_EQ(白樺の連携行(), 1);
     起動.停止処理();
 }
 

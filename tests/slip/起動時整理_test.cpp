@@ -91,4 +91,18 @@ TEST_F(起動時整理, 翠嶺の整理が消せなくても開始は続く) {
     EXPECT_TRUE(行[1].startsWith(u"エラー 削除禁止"_qs));
 }
 
+// The request of a sibling is taken out before the purge runs: with deletes refused, the take's
+// delete fails first, the purge's after it.
+TEST_F(起動時整理, 翠嶺の開始は連携の要求を受けてから整理する) {
+    ASSERT_TRUE(木.環境DB実行(
+        u"INSERT INTO プログラム連携情報 (発信日時, 発信プログラムID, 受信プログラムID, 連携区分, 起動連携情報) VALUES ('20261122 095930', '翠嶺', '紺碧帳', '00', '')"_qs));
+    ASSERT_TRUE(木.環境DB実行(
+        u"CREATE TRIGGER 消させない BEFORE DELETE ON プログラム連携情報 BEGIN SELECT RAISE(ABORT, '削除禁止'); END"_qs));
+    EXPECT_EQ(開始(u"翠嶺"_qs), 起動結果::稼動);
+    const QStringList 行 = 履歴(u"翠嶺"_qs);
+    ASSERT_EQ(行.size(), 4);
+    EXPECT_TRUE(行[1].contains(u"AND 連携区分 = ''00''"_qs)) << 行[1].toStdString();
+    EXPECT_TRUE(行[2].contains(u"発信日時 <="_qs)) << 行[2].toStdString();
+}
+
 }  // namespace
