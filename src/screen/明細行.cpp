@@ -97,19 +97,9 @@ bool frm紺碧帳::費目区分確定(int 行, int 区分) {
     出金行& l = s.行[s.先頭行 + 行];
     if (区分 == l.費目区分) return false;
     s.入力変更フラグ = true;
-    const QString 文 = u"SELECT K費目区分.*"_qs + u" FROM K費目区分"_qs +
-                       u" WHERE K費目区分.区分 = '"_qs + 書式(区分, u"00") + u"'"_qs;
-    記録集合 rs;
-    const bool あり = s.データ.業務DB検索(rs, 文, true);
     short 新区分 = 0, 内外 = 1;
     QString 名称;
-    if (あり) {
-        新区分 = rs.整数(u"区分"_qs);
-        名称 = rs.文字列(u"名称"_qs);
-        内外 = rs.整数(u"内税外税区分"_qs);
-    }
-    rs.閉じる();
-    if (あり) {
+    if (s.費目区分検索(区分, 新区分, 名称, 内外)) {
         費目区分変更時再計算(s.データ, l, 内外, s.見出し.出金日付);
         l.費目区分 = 新区分;
         l.費目区分名称 = 名称;

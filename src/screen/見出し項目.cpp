@@ -131,9 +131,23 @@ void frm紺碧帳::見出し離脱(部品& p) {
         見出し表示();
         知らせる();
     } else if (名 == u"出張申請No") {
-        // A disabled field takes nothing. Taking over an application's lines is not built yet,
-        // so leaving the enabled field changes nothing either.
-        if (!p.Enabled) return;
+        // A disabled field takes nothing, and without the HR link the field is not there.
+        if (!p.Enabled || !s.白樺連携フラグ) return;
+        const QString No = 整える(書式桁揃え(p.Text, ゼロ文字列(8)));
+        bool 変更 = false;
+        try {
+            変更 = s.出張申請確定(No);
+        } catch (const 実行時エラー&) {
+            // The slip went back as it was; so does the field, before the error is shown.
+            見出し表示();
+            throw;
+        }
+        if (!変更) return;
+        見出し表示();
+        明細表示();
+        合計表示();
+        スクロール更新();
+        知らせる();
     } else if (名 == u"出金伝票備考A" || 名 == u"出金伝票備考B") {
         if (備考確定(名 == u"出金伝票備考A" ? 0 : 1, p.Text)) 合計表示();
     }

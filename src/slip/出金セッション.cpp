@@ -2,6 +2,7 @@
 
 #include "rules/番号設定.h"
 #include "rules/集計日付計算.h"
+#include "text/実行時エラー.h"
 
 void 出金セッション::出金情報初期化() {
     新規情報フラグ = true;
@@ -42,6 +43,11 @@ void 出金セッション::出金行初期化(int 位置) {
     const QString 行No = 行[位置].出金行No;
     行[位置] = 出金行{};
     行[位置].出金行No = 行No;
+}
+
+出金行& 出金セッション::行枠(int 位置) {
+    if (位置 < 0 || 位置 >= static_cast<int>(行.size())) throw 添字範囲外();
+    return 行[位置];
 }
 
 void 出金セッション::出金合計初期化() {

@@ -149,6 +149,18 @@ class 出金セッション {
     bool 次No読込();
     bool 過去明細取込(const QString& 鍵, int 位置);
 
+    // A slot of the line table; past the spare slot the table ends with 添字範囲外.
+    出金行& 行枠(int 位置);
+    // An expense class of K費目区分 by its code, as a line takes it over; the statement is
+    // traced in the run history. False when no such class exists.
+    bool 費目区分検索(int 区分, short& 新区分, QString& 名称, short& 内税外税区分);
+
+    // The trip application typed or picked into 出張申請No, read from the HR link: its key to the
+    // three reference fields and, on a slip without lines, its expense rows as lines. False
+    // when the number is the one held. A run-time error part-way puts the slip back as it was.
+    bool 出張申請確定(const QString& 入力No);
+    void 旅費明細取込();
+
     // The nine totals added up from the lines in use.
     void 合計再計算();
     // The slip key as one text of 19 characters: office, number base date, number.
@@ -206,6 +218,7 @@ class 出金セッション {
     void 挿入結果(bool 成功);
     void 削除結果(bool 成功);
     bool 隣接読込(bool 前);
+    bool 出張申請適用(const QString& 入力No);
     void 日程連携更新(const QString& 設定);
 
     記録集合 見出し結果;  // open between 出金キー検索 and 出金見出し読込

@@ -30,6 +30,12 @@ class 日付範囲外 : public 実行時エラー {
     日付範囲外() : 実行時エラー("日付が範囲外です。") {}
 };
 
+// An index past the end of a fixed table, such as a line beyond the spare slot of the slip.
+class 添字範囲外 : public 実行時エラー {
+  public:
+    添字範囲外() : 実行時エラー("インデックスが有効範囲にありません。") {}
+};
+
 // The small integers of the system are 16 bits wide; a result that does not fit overflows.
 inline qint16 小整数へ(qint64 値) {
     if (値 < -32768 || 値 > 32767) throw 桁あふれ();
