@@ -313,6 +313,10 @@ void 一覧画面::条件クリア() {
 void 一覧画面::入れ子一覧(const 条件欄& 欄) {
     部品* 先 = s.一覧設定先項目;
     部品* 名 = s.一覧設定先名称項目;
+    // A window that is itself nested (the employee list over the trip list) stays so once its
+    // own nested list is back; from the first level this leaves 0 and no caller, as always.
+    const short 元の区分 = s.一覧入れ子区分;
+    const QString 元の呼出元 = s.一覧呼出元画面;
     s.一覧呼出元画面 = 画面.名前;
     s.一覧入れ子区分 = 1;
     d.基盤.画面使用可否(画面.名前, false);
@@ -320,8 +324,8 @@ void 一覧画面::入れ子一覧(const 条件欄& 欄) {
     s.一覧設定先項目 = &画面(欄.名前);
     s.一覧設定先名称項目 = &画面(欄.検索ボタン);
     d.基盤.画面表示(欄.入れ子画面, true);
-    s.一覧入れ子区分 = 0;
-    s.一覧呼出元画面.clear();
+    s.一覧入れ子区分 = 元の区分;
+    s.一覧呼出元画面 = 元の呼出元;
     s.一覧設定先項目 = 先;
     s.一覧設定先名称項目 = 名;
     s.入力中項目 = &画面(欄.名前);

@@ -143,6 +143,21 @@ TEST_P(社員一覧, 部門コードは一回のクリックで部門一覧を�
     EXPECT_EQ(焦点先, u"btn_部門コード検索"_qs);
 }
 
+TEST_P(社員一覧, 部門一覧から戻った後に選んでも出張申請一覧へ入れ子のまま返る) {
+    操作[u"wnd部門一覧"_qs] = [&](一覧画面& x) { x.画面.操作_キー(x.一覧(), 27); };
+    社員一覧で([&](一覧画面& x) {
+        x.画面.操作_クリック(x.画面(u"部門コード"_qs));
+        EXPECT_EQ(s.一覧入れ子区分, 1);
+        EXPECT_EQ(s.一覧呼出元画面, u"wnd出張申請No一覧"_qs);
+        x.画面.操作_キー(x.一覧(), 40);
+        x.画面.操作_キー(x.一覧(), 13);
+    });
+    EXPECT_EQ(社員コード, u"00001"_qs);
+    // The main screen came back only when the trip list closed.
+    EXPECT_EQ(基盤.使用可否.value(基盤.使用可否.size() - 2),
+              (QPair<QString, bool>{u"wnd出張申請No一覧"_qs, true}));
+}
+
 TEST_P(社員一覧, 主画面が社員登録なら閉じるときに破棄しそれ以外は隠して次も同じ行を見せる) {
     QStringList 一回目, 二回目;
     社員一覧で([&](一覧画面& x) {

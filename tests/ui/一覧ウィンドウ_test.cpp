@@ -156,11 +156,20 @@ TEST_F(人事一覧ウィンドウ試験,
     f.見出し表示();
     主窓->反映();
     窓で(u"出張申請No一覧"_qs, [this](ScreenWindow& 窓, 画面モデル& m) {
-        窓で(u"社員一覧"_qs, [](ScreenWindow& 社員窓, 画面モデル& 社員) {
+        窓で(u"社員一覧"_qs, [this](ScreenWindow& 社員窓, 画面モデル& 社員) {
             auto* 一覧 = qobject_cast<QTreeWidget*>(社員窓.ウィジェット(社員(u"List社員"_qs)));
             ASSERT_NE(一覧, nullptr);
             EXPECT_EQ(一覧->headerItem()->text(4), u"セクション"_qs);
             EXPECT_EQ(一覧->columnWidth(1), 2500 / 15);
+            // One click in the department code opens the department list over it.
+            auto 開いた = std::make_shared<bool>(false);
+            窓で(u"部門一覧"_qs, [開いた](ScreenWindow& 部門窓, 画面モデル& 部門) {
+                *開いた = true;
+                キー(部門窓, 部門, Qt::Key_Escape);
+            });
+            QTest::mouseClick(社員窓.ウィジェット(社員(u"部門コード"_qs)), Qt::LeftButton);
+            EXPECT_TRUE(*開いた);
+            EXPECT_EQ(社員.フォーカス(), &社員(u"部門コード"_qs));
             打つ(社員窓, 社員, u"カナ"_qs, u"クドウ"_qs);
             押す(社員窓, 社員, u"btn_カナ検索"_qs);
             ASSERT_EQ(一覧->topLevelItemCount(), 1);
