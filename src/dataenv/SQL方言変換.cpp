@@ -184,6 +184,16 @@ bool 右結合を一つ返す(QString& s) {
             左始 = 開き括弧(s, 左終 - 1);
         } else {
             while (左始 > 0 && (語の文字(s.at(左始 - 1)) || s.at(左始 - 1) == u'.')) --左始;
+            // A table under an alias, "M事業所 AS M異動事業所", moves as a whole.
+            qsizetype a = 左始;
+            while (a > 0 && s.at(a - 1).isSpace()) --a;
+            if (a >= 2 && a < 左始 && 単語一致(s, a - 2, u"AS")) {
+                qsizetype 名終 = a - 2;
+                while (名終 > 0 && s.at(名終 - 1).isSpace()) --名終;
+                qsizetype 名始 = 名終;
+                while (名始 > 0 && (語の文字(s.at(名始 - 1)) || s.at(名始 - 1) == u'.')) --名始;
+                if (名始 < 名終 && 名終 < a - 2) 左始 = 名始;
+            }
         }
         if (左始 < 0 || 左始 == 左終) return false;
         // the right operand

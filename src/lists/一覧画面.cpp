@@ -43,10 +43,15 @@ void 一覧画面::焦点(部品* 先) {
 }
 
 void 一覧画面::欄句(検索文& 文, const 句定義& 句) const {
-    const QString 値 = 条件.value(QString::fromUtf16(句.欄));
+    欄句(文, QString::fromUtf16(句.欄), QString::fromUtf16(句.正), QString::fromUtf16(句.否),
+         QString::fromUtf16(句.閉じ), 句.曖昧);
+}
+
+void 一覧画面::欄句(検索文& 文, const QString& 欄名, const QString& 正, const QString& 否,
+                    const QString& 閉じ, bool 曖昧) const {
+    const QString 値 = 条件.value(欄名);
     if (値.trimmed().isEmpty()) return;
-    文.加える(QString::fromUtf16(検索種別 == -1 ? 句.否 : 句.正) +
-              (句.曖昧 ? 引用符二重化(値) : 値) + QString::fromUtf16(句.閉じ));
+    文.加える((検索種別 == -1 ? 否 : 正) + (曖昧 ? 引用符二重化(値) : 値) + 閉じ);
 }
 
 void 一覧画面::区分句(検索文& 文, const QString& 番号, const QString& 正, const QString& 否) const {
@@ -62,9 +67,17 @@ void 一覧画面::呼出条件句(検索文& 文) const {
 }
 
 QString 一覧画面::方言() const {
+    QString db = d.環境.db;
+    if (連携で検索) {
+        const 連携スロット環境* L = d.連携先();
+        db = L ? L->定義.db : QString();
+    }
     // PostgreSQL takes the way of SQL Server wherever the statements differ.
-    const QString& db = d.環境.db;
     return db == u"P" ? u"S"_qs : db;
+}
+
+bool 一覧画面::文を開く(記録集合& rs, const QString& 文, bool 連携) {
+    return 連携 ? d.連携DB検索(rs, 文) : d.業務DB検索(rs, 文);
 }
 
 void 一覧画面::検索ボタン(const QString& 名前, int 種別) {
@@ -134,7 +147,7 @@ void 一覧画面::区分一覧作成() {
         部品& 名称 = 画面(k.名称);
         名称.一覧.clear();
         記録集合 rs;
-        if (d.業務DB検索(rs, k.文)) {
+        if (文を開く(rs, k.文, 連携で検索)) {
             for (; !rs.EOFか(); rs.MoveNext()) 名称.一覧 << rs.文字列(u"名称"_qs);
         }
         rs.閉じる();
@@ -179,7 +192,7 @@ void 一覧画面::コード取出(const QString& 欄名, const QString& 項目�
 QString 一覧画面::名称検索(const 条件欄& 欄, const QString& コード) {
     記録集合 rs;
     QString 名称;
-    if (d.業務DB検索(rs, 欄.名称文 + コード + u"'"_qs)) 名称 = rs.文字列(欄.名称列);
+    if (文を開く(rs, 欄.名称文 + コード + u"'"_qs, 連携で名称)) 名称 = rs.文字列(欄.名称列);
     rs.閉じる();
     return 名称;
 }
@@ -201,7 +214,7 @@ void 一覧画面::一覧検索実行() {
     int 件数 = 0;
     if (!検索SQL.isEmpty()) {
         記録集合 rs;
-        if (d.業務DB検索(rs, 検索SQL)) {
+        if (文を開く(rs, 検索SQL, 連携で検索)) {
             for (; (上限 == 0 || 件数 < 上限) && !rs.EOFか(); rs.MoveNext()) 行を加える(rs, 件数++);
         }
         rs.閉じる();
@@ -300,6 +313,10 @@ void 一覧画面::条件クリア() {
 void 一覧画面::入れ子一覧(const 条件欄& 欄) {
     部品* 先 = s.一覧設定先項目;
     部品* 名 = s.一覧設定先名称項目;
+    // A window that is itself nested (the employee list over the trip list) stays so once its
+    // own nested list is back; from the first level this leaves 0 and no caller, as always.
+    const short 元の区分 = s.一覧入れ子区分;
+    const QString 元の呼出元 = s.一覧呼出元画面;
     s.一覧呼出元画面 = 画面.名前;
     s.一覧入れ子区分 = 1;
     d.基盤.画面使用可否(画面.名前, false);
@@ -307,8 +324,8 @@ void 一覧画面::入れ子一覧(const 条件欄& 欄) {
     s.一覧設定先項目 = &画面(欄.名前);
     s.一覧設定先名称項目 = &画面(欄.検索ボタン);
     d.基盤.画面表示(欄.入れ子画面, true);
-    s.一覧入れ子区分 = 0;
-    s.一覧呼出元画面.clear();
+    s.一覧入れ子区分 = 元の区分;
+    s.一覧呼出元画面 = 元の呼出元;
     s.一覧設定先項目 = 先;
     s.一覧設定先名称項目 = 名;
     s.入力中項目 = &画面(欄.名前);

@@ -91,10 +91,15 @@ class 一覧画面 {
     void 焦点(部品* 先);
     // The clause of one field, when the field's stored value, trimmed, is not empty.
     void 欄句(検索文& 文, const 句定義& 句) const;
+    // The same with literals made while the window is made, as for a window over either of two
+    // tables.
+    void 欄句(検索文& 文, const QString& 欄名, const QString& 正, const QString& 否,
+              const QString& 閉じ, bool 曖昧) const;
     // The clause of a class list, unless it stands on "全て".
     void 区分句(検索文& 文, const QString& 番号, const QString& 正, const QString& 否) const;
     // The caller's condition, in brackets, when there is one.
     void 呼出条件句(検索文& 文) const;
+    // The dialect of the database the search runs on.
     QString 方言() const;
     // A search button: sets its kind, searches, and leaves the focus on the list for Enter.
     void 検索ボタン(const QString& 名前, int 種別);
@@ -104,9 +109,15 @@ class 一覧画面 {
     画面モデル& 主;
     QList<条件欄> 条件欄群;
     QList<区分欄> 区分欄群;
+    // Where the statements run: the search with its class lists, and the name look-ups of the
+    // code fields. The windows on the personnel tables search the HR link's database, whose
+    // dialect then decides the statement's form.
+    bool 連携で検索 = false;
+    bool 連携で名称 = false;
 
   private:
     部品* 一覧部品;
+    bool 文を開く(記録集合& rs, const QString& 文, bool 連携);
     void 閉じる();
     void 呼出元へ戻す();
     void 入れ子一覧(const 条件欄& 欄);

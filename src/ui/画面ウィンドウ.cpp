@@ -352,8 +352,15 @@ bool ScreenWindow::押下(部品& p, QWidget* w) {
             break;
     }
     // A field, list or list view: the press asks for the focus, and where the model sends it
-    // elsewhere the press goes no further (no cursor placed, no list opened).
-    操作([this, &p] { m.操作_フォーカス(p); });
+    // elsewhere the press goes no further (no cursor placed, no list opened). A text field's own
+    // click runs as well, as the employee list's code fields open their lists on it.
+    操作([this, &p] {
+        if (p.種別 == 部品種別::xField) {
+            m.操作_クリック(p);
+        } else {
+            m.操作_フォーカス(p);
+        }
+    });
     return m.フォーカス() != &p;
 }
 

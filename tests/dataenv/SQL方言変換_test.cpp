@@ -97,6 +97,14 @@ TEST(SQL方言変換, 右外部結合の条件は次の句や結合で終わる)
         u"SELECT * FROM B LEFT JOIN A ON (A.x = B.x AND A.y = 'RIGHT JOIN') INNER JOIN C ON C.x = B.x"_qs);
 }
 
+TEST(SQL方言変換, 別名の付いた表は別名ごと右外部結合の反対側へ移る) {
+    EXPECT_EQ(
+        変換(
+            u"SELECT X.名称 FROM M事業所 AS X RIGHT JOIN (M部門 AS Y RIGHT JOIN T ON Y.コード = T.b) ON X.コード = T.a WHERE T.c = '1'"_qs,
+            SQL方言::SQLite),
+        u"SELECT X.名称 FROM (T LEFT JOIN M部門 AS Y ON Y.コード = T.b) LEFT JOIN M事業所 AS X ON X.コード = T.a WHERE T.c = '1'"_qs);
+}
+
 TEST(SQL方言変換, PostgreSQLでは右外部結合をそのまま渡す) {
     const QString 文 = u"SELECT * FROM A RIGHT JOIN B ON A.x = B.x"_qs;
     EXPECT_EQ(変換(文, SQL方言::PostgreSQL), 文);

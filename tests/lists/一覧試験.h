@@ -14,24 +14,23 @@
 #include "screen/frm紺碧帳.h"
 #include "text/台本プラットフォーム.h"
 
-// The entry screen with its list windows on the sample tree, the general database in SQLite or
-// in PostgreSQL. What an operator does in a list window while it is up is given per window.
-class 一覧試験 : public エンジン別試験 {
+// The entry screen with its list windows on a tree that the fixture 基 makes: the sample tree
+// with its general database on either engine, or the tree with the HR system beside it. What
+// an operator does in a list window while it is up is given per window.
+template <class 基>
+class 一覧操作 : public 基 {
   protected:
-    void SetUp() override {
-        エンジン別試験::SetUp();
-        if (HasFatalFailure() || IsSkipped()) return;
-        基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
-    }
-
     // Starts the program on the tree as it stands now, with the entry screen loaded.
     void 開始() {
-        出金セッション準備(s, *木);
+        出金セッション準備(s, *this->木);
         if (testing::Test::HasFatalFailure()) return;
+        // A tree with the HR system beside it: the link opens as the start opens it.
+        s.白樺連携フラグ = s.データ.人事連携選択(u"白樺"_qs);
+        if (s.白樺連携フラグ) ASSERT_TRUE(s.データ.人事連携開始());
         f = std::make_unique<frm紺碧帳>(s);
         f->画面読込([this] { s.出金情報初期化(); });
         集 = std::make_unique<一覧画面集>(s, f->画面);
-        基盤.画面表示時 = [this](const QString& 名) {
+        this->基盤.画面表示時 = [this](const QString& 名) {
             const auto 手 = 操作.value(名);
             if (手) 手(*集->探す(名));
         };
@@ -51,7 +50,7 @@ class 一覧試験 : public エンジン別試験 {
         if (!p) return {};
         return p->添字 < 0 ? p->名前 : p->名前 + u"("_qs + QString::number(p->添字) + u")"_qs;
     }
-    bool 業務(const QString& 文) { return 木->業務DB実行(文); }
+    bool 業務(const QString& 文) { return this->木->業務DB実行(文); }
     // A staff member of the master, as the suite's staff registration leaves him.
     bool 担当者追加(const QString& コード, const QString& 氏名, const QString& 事業所 = u"000"_qs,
                     const QString& 部門 = u"001"_qs, const QString& セクション = u"001"_qs,
@@ -63,8 +62,18 @@ class 一覧試験 : public エンジン別試験 {
             部門 + u"', '"_qs + セクション + u"', '1', '"_qs + 在籍 + u"')"_qs);
     }
 
-    出金セッション s{基盤};
+    出金セッション s{this->基盤};
     std::unique_ptr<frm紺碧帳> f;
     std::unique_ptr<一覧画面集> 集;
     QHash<QString, std::function<void(一覧画面&)>> 操作;
+};
+
+// The lists over the sample tree, the general database in SQLite or in PostgreSQL.
+class 一覧試験 : public 一覧操作<エンジン別試験> {
+  protected:
+    void SetUp() override {
+        エンジン別試験::SetUp();
+        if (HasFatalFailure() || IsSkipped()) return;
+        基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
+    }
 };

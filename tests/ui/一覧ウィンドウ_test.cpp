@@ -23,10 +23,17 @@ namespace {
 // entry window, driven by real keys and clicks.
 class 一覧ウィンドウ試験 : public ::testing::Test {
   protected:
+    一覧ウィンドウ試験() : 一覧ウィンドウ試験(false) {}
+    // With the HR system's tree beside the company's, the link open at the start.
+    explicit 一覧ウィンドウ試験(bool 人事あり) : 木(QString(), 人事あり) {}
+
     void SetUp() override {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         出金セッション準備(s, 木);
         if (HasFatalFailure()) return;
+        // A tree with the HR system beside it: the link opens as the start opens it.
+        s.白樺連携フラグ = s.データ.人事連携選択(u"白樺"_qs);
+        if (s.白樺連携フラグ) ASSERT_TRUE(s.データ.人事連携開始());
         f.画面読込([this] { s.出金情報初期化(); });
         for (const auto& x : 集.全部()) 基盤.画面登録(x->画面.名前, x->画面);
         主窓 = std::make_unique<ScreenWindow>(f.画面);
@@ -105,6 +112,89 @@ class 一覧ウィンドウ試験 : public ::testing::Test {
     一覧画面集 集{s, f.画面};
     std::unique_ptr<ScreenWindow> 主窓;
 };
+
+class 人事一覧ウィンドウ試験 : public 一覧ウィンドウ試験 {
+  protected:
+    人事一覧ウィンドウ試験() : 一覧ウィンドウ試験(true) {}
+};
+
+TEST_F(人事一覧ウィンドウ試験, 出張申請No一覧で社員を打って探しキーで選ぶと番号が入り担当者へ進む) {
+    ASSERT_TRUE(s.白樺連携フラグ);
+    ASSERT_TRUE(主(u"btn_出張申請No"_qs)->isVisible());
+    窓で(u"出張申請No一覧"_qs, [](ScreenWindow& 窓, 画面モデル& m) {
+        auto* 一覧 = qobject_cast<QTreeWidget*>(窓.ウィジェット(m(u"List出張申請No"_qs)));
+        ASSERT_NE(一覧, nullptr);
+        EXPECT_EQ(一覧->headerItem()->text(3), u"社員名"_qs);
+        EXPECT_EQ(一覧->headerItem()->text(6), u"区分"_qs);
+        EXPECT_EQ(一覧->columnWidth(3), 2000 / 15);
+        EXPECT_EQ(一覧->columnWidth(5), 850 / 15);
+        打つ(窓, m, u"社員コード"_qs, u"5"_qs);
+        EXPECT_EQ(qobject_cast<QLineEdit*>(窓.ウィジェット(m(u"社員名"_qs)))->text(),
+                  u"大野 大輔"_qs);
+        押す(窓, m, u"btn_社員コード検索"_qs);
+        // His applications of every year, the latest first.
+        ASSERT_EQ(一覧->topLevelItemCount(), 2);
+        EXPECT_EQ(一覧->topLevelItem(0)->text(0), u"00000001"_qs);
+        EXPECT_EQ(一覧->topLevelItem(1)->text(0), u"00000044"_qs);
+        EXPECT_EQ(一覧->topLevelItem(0)->text(6), u"国内宿泊"_qs);
+        EXPECT_EQ(焦点の窓部品(窓, m), 一覧);
+        写真(&窓, u"出張申請No一覧_検索後"_qs);
+        キー(窓, m, Qt::Key_Return);
+    });
+    QTest::mouseClick(主(u"btn_出張申請No"_qs), Qt::LeftButton);
+    EXPECT_EQ(c(u"出張申請No"_qs).Text, u"00000001"_qs);
+    EXPECT_EQ(qobject_cast<QLineEdit*>(主(u"出張申請No"_qs))->text(), u"00000001"_qs);
+    EXPECT_EQ(s.一覧条件文字列, u"C0002027033100000001"_qs);
+    EXPECT_EQ(焦点(), u"担当者コード"_qs);
+    EXPECT_EQ(主窓->focusWidget(), 主(u"担当者コード"_qs));
+}
+
+TEST_F(人事一覧ウィンドウ試験,
+       出張申請No一覧の社員コードでCtrlを押すと社員一覧が開き選んだ社員で探せる) {
+    // With the header's staff entered the order guard lets the focus come back to the number.
+    ASSERT_TRUE(f.担当者確定(u"00005"_qs));
+    f.見出し表示();
+    主窓->反映();
+    窓で(u"出張申請No一覧"_qs, [this](ScreenWindow& 窓, 画面モデル& m) {
+        窓で(u"社員一覧"_qs, [this](ScreenWindow& 社員窓, 画面モデル& 社員) {
+            auto* 一覧 = qobject_cast<QTreeWidget*>(社員窓.ウィジェット(社員(u"List社員"_qs)));
+            ASSERT_NE(一覧, nullptr);
+            EXPECT_EQ(一覧->headerItem()->text(4), u"セクション"_qs);
+            EXPECT_EQ(一覧->columnWidth(1), 2500 / 15);
+            // One click in the department code opens the department list over it.
+            auto 開いた = std::make_shared<bool>(false);
+            窓で(u"部門一覧"_qs, [開いた](ScreenWindow& 部門窓, 画面モデル& 部門) {
+                *開いた = true;
+                キー(部門窓, 部門, Qt::Key_Escape);
+            });
+            QTest::mouseClick(社員窓.ウィジェット(社員(u"部門コード"_qs)), Qt::LeftButton);
+            EXPECT_TRUE(*開いた);
+            EXPECT_EQ(社員.フォーカス(), &社員(u"部門コード"_qs));
+            打つ(社員窓, 社員, u"カナ"_qs, u"クドウ"_qs);
+            押す(社員窓, 社員, u"btn_カナ検索"_qs);
+            ASSERT_EQ(一覧->topLevelItemCount(), 1);
+            EXPECT_EQ(一覧->topLevelItem(0)->text(1), u"工藤 直樹"_qs);
+            EXPECT_EQ(一覧->topLevelItem(0)->text(2), u"大阪支店"_qs);
+            写真(&社員窓, u"社員一覧_検索後"_qs);
+            キー(社員窓, 社員, Qt::Key_Return);
+        });
+        QTest::mouseClick(窓.ウィジェット(m(u"社員コード"_qs)), Qt::LeftButton);
+        QTest::keyClick(焦点の窓部品(窓, m), Qt::Key_Control);
+        EXPECT_EQ(qobject_cast<QLineEdit*>(窓.ウィジェット(m(u"社員コード"_qs)))->text(),
+                  u"00008"_qs);
+        EXPECT_EQ(qobject_cast<QLineEdit*>(窓.ウィジェット(m(u"社員名"_qs)))->text(),
+                  u"工藤 直樹"_qs);
+        EXPECT_EQ(m.フォーカス(), &m(u"btn_社員コード検索"_qs));
+        押す(窓, m, u"btn_社員コード検索"_qs);
+        auto* 一覧 = qobject_cast<QTreeWidget*>(窓.ウィジェット(m(u"List出張申請No"_qs)));
+        ASSERT_EQ(一覧->topLevelItemCount(), 1);
+        EXPECT_EQ(一覧->topLevelItem(0)->text(0), u"00000002"_qs);
+        キー(窓, m, Qt::Key_Escape);
+    });
+    QTest::mouseClick(主(u"btn_出張申請No"_qs), Qt::LeftButton);
+    EXPECT_TRUE(c(u"出張申請No"_qs).Text.isEmpty());
+    EXPECT_EQ(焦点(), u"出張申請No"_qs);
+}
 
 TEST_F(一覧ウィンドウ試験, 担当者一覧で名前を打って探しキーで選ぶとコードが入り次へ進む) {
     窓で(u"担当者一覧"_qs, [](ScreenWindow& 窓, 画面モデル& m) {
