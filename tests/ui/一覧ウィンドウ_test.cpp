@@ -144,7 +144,11 @@ TEST_F(人事一覧ウィンドウ試験, 出張申請No一覧で社員を打っ
     QTest::mouseClick(主(u"btn_出張申請No"_qs), Qt::LeftButton);
     EXPECT_EQ(c(u"出張申請No"_qs).Text, u"00000001"_qs);
     EXPECT_EQ(qobject_cast<QLineEdit*>(主(u"出張申請No"_qs))->text(), u"00000001"_qs);
-    EXPECT_EQ(s.一覧条件文字列, u"C0002027033100000001"_qs);
+    // The field's leave took the row's key: office and base date of the pick, its three lines.
+    EXPECT_TRUE(s.一覧条件文字列.isEmpty());
+    EXPECT_EQ(s.見出し.出張申請事業所コード, u"000"_qs);
+    EXPECT_EQ(s.見出し.出張申請番号基準日付, u"20270331"_qs);
+    EXPECT_EQ(s.最終行, 2);
     EXPECT_EQ(焦点(), u"担当者コード"_qs);
     EXPECT_EQ(主窓->focusWidget(), 主(u"担当者コード"_qs));
 }
@@ -194,6 +198,78 @@ TEST_F(人事一覧ウィンドウ試験,
     QTest::mouseClick(主(u"btn_出張申請No"_qs), Qt::LeftButton);
     EXPECT_TRUE(c(u"出張申請No"_qs).Text.isEmpty());
     EXPECT_EQ(焦点(), u"出張申請No"_qs);
+}
+
+// The whole take-over as an operator does it: the staff, the trip list from the entry screen, a
+// pick, the lines on the screen, the store; the slip lands in the company's database and the HR
+// database is left as it was.
+TEST_F(人事一覧ウィンドウ試験, 出張申請を選ぶと旅費が行になり保存すると伝票だけが書かれる) {
+    基盤.画面登録(f.印刷確認.画面.名前, f.印刷確認.画面);
+    基盤.画面登録(f.お待ち.画面.名前, f.お待ち.画面);
+    const auto 人事の行 = [this] {
+        QList<QVariantList> 行;
+        for (const char16_t* 表 :
+             {u"T出張申請", u"T出張旅費", u"A番号情報", u"A事業所別番号情報"}) {
+            行 += 木.人事DB行(u"SELECT * FROM "_qs + QString::fromUtf16(表));
+        }
+        return 行;
+    };
+    const auto 前 = 人事の行();
+    // A slip of a fixed day, so that the list's year before it holds the application.
+    出金日付入力(s, u"20261120"_qs);
+    f.画面全表示();
+    主窓->反映();
+    QTest::mouseClick(主(u"担当者コード"_qs), Qt::LeftButton);
+    QInputMethodEvent 確定;
+    確定.setCommitString(u"1"_qs);
+    QApplication::sendEvent(主(u"担当者コード"_qs), &確定);
+    QTest::keyClick(主(u"担当者コード"_qs), Qt::Key_Tab);
+    ASSERT_EQ(焦点(), u"出張申請No"_qs);
+
+    窓で(u"出張申請No一覧"_qs, [](ScreenWindow& 窓, 画面モデル& m) {
+        押す(窓, m, u"btn_複合検索"_qs);
+        auto* 一覧 = qobject_cast<QTreeWidget*>(窓.ウィジェット(m(u"List出張申請No"_qs)));
+        ASSERT_EQ(一覧->topLevelItemCount(), 1);
+        EXPECT_EQ(一覧->topLevelItem(0)->text(0), u"00000003"_qs);
+        EXPECT_EQ(一覧->topLevelItem(0)->text(3), u"青木 翔太"_qs);
+        キー(窓, m, Qt::Key_Return);
+    });
+    QTest::keyClick(主(u"出張申請No"_qs), Qt::Key_Control);
+    EXPECT_EQ(c(u"出張申請No"_qs).Text, u"00000003"_qs);
+    ASSERT_EQ(s.最終行, 4);
+    EXPECT_EQ(qobject_cast<QLineEdit*>(主(u"出金金額"_qs, 0))->text(), u"41200"_qs);
+    EXPECT_EQ(c(u"費目区分名称"_qs, 0).Text, u"旅費交通費"_qs);
+    EXPECT_EQ(s.合計.出金金額合計, 金額::円(41200 + 11000 + 4000 + 1320 + 3000));
+
+    // The store question is answered with 登録 once it is up.
+    auto* 時計 = new QTimer(主窓.get());
+    QObject::connect(時計, &QTimer::timeout, [this, 時計] {
+        for (QWidget* t : QApplication::topLevelWidgets()) {
+            auto* 窓 = dynamic_cast<ScreenWindow*>(t);
+            if (!窓 || !窓->isVisible() || !窓->ウィジェット(f.印刷確認.画面(u"lab_msg"_qs)))
+                continue;
+            時計->stop();
+            時計->deleteLater();
+            QTest::mouseClick(窓->ウィジェット(f.印刷確認.画面(u"btn_登録"_qs)), Qt::LeftButton);
+            return;
+        }
+    });
+    時計->start(10);
+    QTest::mouseClick(主(u"btn_登録"_qs), Qt::LeftButton);
+
+    const auto 伝票 = 木.業務DB行(
+        u"SELECT 担当者コード, 出張申請事業所コード, 出張申請番号基準日付, 出張申請No, 出金金額合計 FROM T出金"_qs);
+    ASSERT_EQ(伝票.size(), 1);
+    EXPECT_EQ(伝票[0][0].toString(), u"00001"_qs);
+    EXPECT_EQ(伝票[0][1].toString(), u"000"_qs);
+    EXPECT_EQ(伝票[0][2].toString(), u"20270331"_qs);
+    EXPECT_EQ(伝票[0][3].toString(), u"00000003"_qs);
+    EXPECT_EQ(伝票[0][4].toLongLong(), 60520);
+    const auto 明細 = 木.業務DB行(u"SELECT 摘要, 出金金額 FROM T出金明細 ORDER BY 出金行No"_qs);
+    ASSERT_EQ(明細.size(), 5);
+    EXPECT_EQ(明細[0][0].toString(), u"交通費\r航空券 羽田-新千歳 往復"_qs);
+    EXPECT_EQ(明細[4][1].toLongLong(), 3000);
+    EXPECT_EQ(人事の行(), 前);
 }
 
 TEST_F(一覧ウィンドウ試験, 担当者一覧で名前を打って探しキーで選ぶとコードが入り次へ進む) {
