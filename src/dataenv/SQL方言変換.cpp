@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -24,6 +25,21 @@ bool 単語一致(const QString& s, qsizetype i, QStringView 語) {
     const qsizetype j = i + 語.size();
     return j >= s.size() || !語の文字(s.at(j));
 }
+
+// The ASCII characters a scan passes over in one run: all but the ones given. A character beyond
+// ASCII is looked at by itself, as it might fold to a letter of a word.
+struct 素通し表 {
+    std::array<bool, 128> 通す{};
+    constexpr explicit 素通し表(std::u16string_view 止まる字) {
+        for (std::size_t c = 0; c < 通す.size(); ++c)
+            通す[c] = 止まる字.find(char16_t(c)) == 止まる字.npos;
+    }
+    // The end of the run from i.
+    qsizetype 先(const QString& s, qsizetype i) const {
+        while (i < s.size() && s.at(i).unicode() < 128 && 通す[s.at(i).unicode()]) ++i;
+        return i;
+    }
+};
 
 qsizetype 空白を飛ばす(const QString& s, qsizetype i) {
     while (i < s.size() && s.at(i).isSpace()) ++i;
@@ -82,6 +98,9 @@ constexpr QStringView 語TOP = u"TOP", 語LEFT = u"LEFT", 語RIGHT = u"RIGHT", �
 constexpr std::array<QStringView, 12> 終わりの語 = {u"WHERE", u"ORDER", u"GROUP", u"HAVING",
                                                     u"UNION", u"LEFT",  u"RIGHT", u"INNER",
                                                     u"JOIN",  u"CROSS", u"FULL",  u"LIMIT"};
+
+// Quotes and the first letter of RIGHT stop the search for a join.
+constexpr 素通し表 結合の外(u"'\"Rr");
 
 constexpr QStringView 終わりの語の頭文字 = u"WOGHULRIJCFwoghulrijcf";
 
@@ -171,6 +190,12 @@ class 右結合書換 {
                 通過点々.push_back({i, 読了});
                 記録 = i;
             }
+            const qsizetype 先 = 結合の外.先(s, i);
+            if (先 > i) {
+                読了 = std::max(読了, 先 + 4);
+                i = 先;
+                continue;
+            }
             const QChar c = s.at(i);
             if (c == u'\'' || c == u'"') {
                 i = 引用終端(s, i);
@@ -194,6 +219,9 @@ class 右結合書換 {
     QString& s;
     std::vector<通過点> 通過点々;
 };
+
+// Quotes, brackets, commas and the first letters of TOP, LEFT and nvarchar stop a copied run.
+constexpr 素通し表 書換の外(u"'\"()[,TtLlNn");
 
 // The rest of the translation in one pass: literals, [names], TOP n, LEFT( and nvarchar(. Each
 // bracket level writes its text at the end of one output. What a level adds when it closes,
@@ -229,6 +257,13 @@ class 変換器 {
     };
 
     void 一字() {
+        // A run of characters that are copied as they stand goes out at once.
+        const qsizetype 先 = 書換の外.先(元, 位置);
+        if (先 > 位置) {
+            書く(QStringView(元).mid(位置, 先 - 位置));
+            位置 = 先;
+            return;
+        }
         段& 今 = 段々.back();
         const QChar c = 元.at(位置);
         if (c == u'\'' || c == u'"') {
