@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "report/帳票指定.h"
-#include "rules/帳票起動.h"
+#include "rules/帳票引数.h"
 
 namespace {
 
