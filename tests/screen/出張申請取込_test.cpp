@@ -143,6 +143,19 @@ TEST_P(出張申請取込, 一覧から選ぶと申請の旅費が明細に入�
     EXPECT_EQ(知らせ(), QString());
 }
 
+// The take-over asks nothing of the employee: an application of one who retired before the
+// trip comes in as any other.
+TEST_P(出張申請取込, 出張の前に退職した社員の申請もそのまま入る) {
+    申請を置く(u"00000060"_qs, {{u"01"_qs, u"1500"_qs}});
+    ASSERT_TRUE(木->人事DB実行(
+        u"UPDATE T出張申請 SET 社員コード = '00012' WHERE 出張申請No = '00000060'"_qs));
+    選ぶ(u"000"_qs, 今期, u"00000060"_qs);
+    参照欄は(u"000"_qs, 今期, u"00000060"_qs);
+    ASSERT_EQ(s.最終行, 0);
+    EXPECT_EQ(s.行[0].出金金額, 金額::円(1500));
+    EXPECT_EQ(知らせ(), QString());
+}
+
 TEST_P(出張申請取込, 明細のある伝票では明細を残し参照欄だけが変わる) {
     f->画面.操作_入力(c(u"費目区分"_qs, 0), u"3"_qs);
     f->画面.操作_入力(c(u"出金金額"_qs, 0), u"500"_qs);

@@ -51,6 +51,16 @@ TEST_F(人事連携起動, 白樺の一般データベースが無ければ知�
     EXPECT_FALSE(s.データ.連携先()->環境DB接続中);
 }
 
+TEST_F(人事連携起動, 白樺のサーバーが止まっていれば知らせて止まる) {
+    // Nothing listens on port 1: the server of the HR database is down.
+    ASSERT_TRUE(木.人事環境DB実行(
+        u"UPDATE データベース定義 SET db = 'P', サーバー名 = '127.0.0.1:1', データベース名 = 'hr', ユーザーID = 'postgres' WHERE 情報種類 = 'GNR'"_qs));
+    ASSERT_EQ(起動.プログラム開始(QString()), 起動結果::停止);
+    EXPECT_EQ(基盤.表示文言(), QStringList{u"白樺連携データベースが使用できません。"_qs});
+    EXPECT_TRUE(履歴().last().startsWith(u"エラー 連携db_OPEN ERROR"_qs))
+        << 履歴().last().toStdString();
+}
+
 TEST_F(人事連携起動, 白樺の設定が読めなければ二つの知らせで止まる) {
     ASSERT_TRUE(QFile::remove(木.人事根() + u"/conf/usrcnfg.sqlite"_qs));
     ASSERT_EQ(起動.プログラム開始(QString()), 起動結果::停止);
