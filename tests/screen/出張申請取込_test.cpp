@@ -143,6 +143,20 @@ TEST_P(出張申請取込, 一覧から選ぶと申請の旅費が明細に入�
     EXPECT_EQ(知らせ(), QString());
 }
 
+// The jump to the trip application program of the HR system: its programs folder, the key
+// behind the name without separators; a number of zeros starts nothing.
+TEST_P(出張申請取込, 参照元の釦は白樺の出張申請登録を申請の鍵で起こす) {
+    選ぶ(u"000"_qs, 今期, u"00000001"_qs);
+    f->画面.操作_クリック(c(u"btn_参照元No"_qs));
+    ASSERT_EQ(基盤.起動済み.size(), 1);
+    const QString フォルダ = 木->人事根() + u"/prgbin"_qs;
+    EXPECT_EQ(基盤.起動済み[0].プログラム, フォルダ + u"/出張申請登録"_qs);
+    EXPECT_EQ(基盤.起動済み[0].引数, QStringList{u"000"_qs + 今期 + u"00000001"_qs});
+    f->画面.操作_入力(c(u"出張申請No"_qs), u"00000000"_qs);
+    f->画面.操作_クリック(c(u"btn_参照元No"_qs));
+    EXPECT_EQ(基盤.起動済み.size(), 1);
+}
+
 // The take-over asks nothing of the employee: an application of one who retired before the
 // trip comes in as any other.
 TEST_P(出張申請取込, 出張の前に退職した社員の申請もそのまま入る) {
