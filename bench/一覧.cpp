@@ -32,7 +32,8 @@ double 直接(const QSqlDatabase& db, const QString& 文, int& 件数) {
 void 測る(const char* 名前, 一覧画面& 窓, const QString& 釦, const QSqlDatabase& db) {
     std::vector<double> 画面, 生, 比;
     int 行数 = 0, 生行数 = 0;
-    for (int i = 0; i < 15; ++i) {
+    // Sixty turns: a single slow turn on a busy machine moves a median of few.
+    for (int i = 0; i < 60; ++i) {
         QElapsedTimer t;
         t.start();
         窓.画面.操作_クリック(窓.画面(釦));
@@ -48,22 +49,7 @@ void 測る(const char* 名前, 一覧画面& 窓, const QString& 釦, const QSq
     結果表示((名 + " ratio to raw").c_str(), 比, "x");
 }
 
-}  // namespace
-
-// Each list window's search on 1 million slips, from the button press to the rows in the model,
-// against the same statement read raw.
-void 一覧計測() {
-    const QString 根 = 大量伝票の木(1000000);
-    if (根.isEmpty()) return;
-    台本プラットフォーム 基盤;
-    基盤.時刻 = QDateTime(QDate(2024, 2, 15), QTime(10, 0, 0));
-    出金セッション s(基盤);
-    s.データ.自身のフォルダ = 根 + u"/prgbin"_qs;
-    if (!s.データ.SYB_OPEN() || !s.データ.DB_OPEN() || !s.データ.基本項目読込()) return;
-    frm紺碧帳 f(s);
-    一覧画面集 集(s, f.画面);
-    const QSqlDatabase db = s.データ.業務DB().生接続();
-
+void 測る全て(一覧画面集& 集, 出金セッション& s, const QSqlDatabase& db) {
     一覧画面& 担当者 = 集(u"wnd担当者一覧"_qs);
     担当者.読込();
     担当者.画面.操作_入力(担当者.画面(u"在籍区分"_qs), u"2"_qs);
@@ -84,5 +70,27 @@ void 一覧計測() {
     測る("description list, last 3 months", 摘要, u"btn_複合検索"_qs, db);
     摘要.画面.操作_クリック(摘要.画面(u"opb_期間"_qs, 4));
     測る("description list, all", 摘要, u"btn_複合検索"_qs, db);
+}
+
+}  // namespace
+
+// Each list window's search on 1 million slips, from the button press to the rows in the model,
+// against the same statement read raw.
+void 一覧計測() {
+    const QString 根 = 大量伝票の木(1000000);
+    if (根.isEmpty()) return;
+    台本プラットフォーム 基盤;
+    基盤.時刻 = QDateTime(QDate(2024, 2, 15), QTime(10, 0, 0));
+    出金セッション s(基盤);
+    s.データ.自身のフォルダ = 根 + u"/prgbin"_qs;
+    if (!s.データ.SYB_OPEN() || !s.データ.DB_OPEN() || !s.データ.基本項目読込()) return;
+    frm紺碧帳 f(s);
+    一覧画面集 集(s, f.画面);
+    // The raw reads share the program's connection, and let it go before it is closed.
+    {
+        const QSqlDatabase db = s.データ.業務DB().生接続();
+        測る全て(集, s, db);
+    }
     s.データ.接続終了();
 }
+

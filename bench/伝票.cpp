@@ -10,7 +10,7 @@
 
 QString 大量伝票の木(int 件数) {
     // The name changes with the generator, so that older data is made again.
-    const QString 根 = QStringLiteral(KONPEKI_BENCH_DATA) + u"/slips2-"_qs + QString::number(件数);
+    const QString 根 = QStringLiteral(KONPEKI_BENCH_DATA) + u"/slips3-"_qs + QString::number(件数);
     if (QFile::exists(根 + u"/data/ready"_qs)) return 根;
     QDir(根).removeRecursively();
     ツリー作成指定 指定;

@@ -40,3 +40,6 @@ CREATE INDEX T出金_事業所日付順 ON T出金 (事業所コード, 出金�
 CREATE INDEX T出金_日付順 ON T出金 (出金日付, 出金No);
 -- The slip list's number search: by number, then the newest date first
 CREATE INDEX T出金_番号順 ON T出金 (出金No, 出金日付);
+-- The slip list's person search, and the entry screen's staff preset: one person's slips, newest
+-- first (without it PostgreSQL reads the whole table for a person of few slips)
+CREATE INDEX T出金_担当者日付順 ON T出金 (担当者コード, 出金日付, 出金No);

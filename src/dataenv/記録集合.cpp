@@ -55,14 +55,28 @@ QString 記録集合::文字列(const QString& 列名) const {
     return v.isNull() ? QString() : v.toString();
 }
 
-金額 記録集合::金額値(const QString& 列名) const {
-    const QVariant v = 値(列名);
+namespace {
+
+金額 金額に(const QVariant& v) {
     if (v.isNull()) return 金額();
     try {
+        // Whole numbers as the engine gave them; the text of any other value is read exactly.
+        const int 型 = v.typeId();
+        if (型 == QMetaType::LongLong || 型 == QMetaType::Int) return 金額::円(v.toLongLong());
         return 金額::文字列から(v.toString());
     } catch (const 実行時エラー&) {
         return 金額();
     }
+}
+
+}  // namespace
+
+金額 記録集合::金額値(const QString& 列名) const {
+    return 金額に(値(列名));
+}
+
+金額 記録集合::金額値(int 列) const {
+    return 金額に(値(列));
 }
 
 double 記録集合::数値(const QString& 列名) const {

@@ -21,6 +21,7 @@ class 記録集合 {
     // The column as it came from the engine; an unknown column reads as Null.
     QVariant 値(const QString& 列名) const;
     bool Null(const QString& 列名) const { return 値(列名).isNull(); }
+    bool Null(int 列) const { return 値(列).isNull(); }
     bool 列あり(const QString& 列名) const { return 列番号(列名) >= 0; }
     // The columns by place, for readers that take them in the order of the SELECT.
     int 列数() const;
@@ -32,6 +33,7 @@ class 記録集合 {
     short 整数(const QString& 列名) const;
     // Money exactly as stored, rounded half to even at the fourth decimal.
     金額 金額値(const QString& 列名) const;
+    金額 金額値(int 列) const;
 
   private:
     friend class データ接続;

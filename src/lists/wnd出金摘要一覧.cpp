@@ -1,6 +1,7 @@
 #include "lists/wnd出金摘要一覧.h"
 
 #include <QDate>
+#include <QStringBuilder>
 
 #include "dataenv/データ環境.h"
 #include "slip/出金セッション.h"
@@ -62,6 +63,7 @@ void wnd出金摘要一覧::条件クリア() {
 
 QString wnd出金摘要一覧::検索文作成() {
     const bool A = 方言() == u"A";
+    重複あり = A;
     const QString 先頭 = A ? u"LEFT(摘要,20)"_qs : u"SUBSTRING(摘要,1,20)"_qs;
     QString 文 = (A ? u"SELECT "_qs : u"SELECT DISTINCT "_qs) + 先頭 + u" AS 先頭摘要"_qs +
                  u" FROM T出金明細"_qs;
@@ -90,9 +92,16 @@ QString wnd出金摘要一覧::検索文作成() {
 
 void wnd出金摘要一覧::行を加える(記録集合& rs, int 件数) {
     一覧項目 項;
-    項.Text = rs.文字列(u"先頭摘要"_qs);
-    // Without DISTINCT the same text comes more than once; the counter keeps the keys apart.
-    項.Key = 方言() == u"A" ? u"C"_qs + QString::number(件数 + 1).rightJustified(11, u'0') + 項.Text
-                            : u"C"_qs + 項.Text;
+    const QVariant 先頭 = rs.値(0);
+    if (!先頭.isNull()) 項.Text = 先頭.toString();
+    if (!重複あり) {
+        項.Key = u"C"_qs + 項.Text;
+    } else {
+        // Without DISTINCT the same text comes more than once; the counter, written in eleven
+        // places, keeps the keys apart.
+        char16_t 番号[11] = {u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0'};
+        for (int i = 10, n = 件数 + 1; n > 0 && i >= 0; --i, n /= 10) 番号[i] = char16_t(u'0' + n % 10);
+        項.Key = u"C"_qs % QStringView(番号, 11) % 項.Text;
+    }
     一覧().項目追加(std::move(項));
 }

@@ -131,7 +131,7 @@ QString wnd担当者一覧::検索文作成() {
             セクション句();
             break;
     }
-    for (const QString 区分名 : {u"在籍区分"_qs, u"社員区分"_qs}) {
+    for (const QString& 区分名 : {u"在籍区分"_qs, u"社員区分"_qs}) {
         const QString 頭 = u" AND "_qs + T + u"."_qs + 区分名;
         区分句(q, 区分名, 頭 + u" = '"_qs, 頭 + u" <> '"_qs);
     }

@@ -6,7 +6,7 @@ wnd社員一覧::wnd社員一覧(出金セッション& セッション, 画面�
     // are this company's own.
     連携で検索 = true;
     // Here a single click in a department or section code opens its list, not a double one.
-    for (const QString 名 : {u"部門コード"_qs, u"セクションコード"_qs}) {
+    for (const QString& 名 : {u"部門コード"_qs, u"セクションコード"_qs}) {
         部品& p = 画面(名);
         p.Click = std::move(p.DblClick);
         p.DblClick = nullptr;

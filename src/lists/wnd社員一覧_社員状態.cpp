@@ -177,7 +177,7 @@ void wnd社員一覧::社員状態判定(const QString& 社員コード) {
 
 void wnd社員一覧::社員条件照合(bool& 照合) const {
     照合 = false;
-    for (const QString 名 : {u"在籍区分"_qs, u"社員区分"_qs}) {
+    for (const QString& 名 : {u"在籍区分"_qs, u"社員区分"_qs}) {
         const int i = 区分.value(名);
         const short 値 = 名 == u"在籍区分" ? 状態.在籍区分 : 状態.社員区分;
         if (i != 画面.探す(名)->Max && 値 != i) return;

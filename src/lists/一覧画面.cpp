@@ -208,14 +208,20 @@ void 一覧画面::初回検索() {
 
 void 一覧画面::一覧検索実行() {
     部品& L = 一覧();
-    L.項目クリア();
+    // The rows of the last search are let go one at a time while the new ones are read, so that
+    // the memory of each goes straight to the next row.
+    QList<一覧項目> 前の行 = L.項目取出し();
     検索SQL = 検索文作成();
     const int 上限 = 行上限();
     int 件数 = 0;
     if (!検索SQL.isEmpty()) {
         記録集合 rs;
         if (文を開く(rs, 検索SQL, 連携で検索)) {
-            for (; (上限 == 0 || 件数 < 上限) && !rs.EOFか(); rs.MoveNext()) 行を加える(rs, 件数++);
+            for (; (上限 == 0 || 件数 < 上限) && !rs.EOFか(); rs.MoveNext()) {
+                行を加える(rs, 件数);
+                if (件数 < 前の行.size()) 前の行[件数] = {};
+                ++件数;
+            }
         }
         rs.閉じる();
     }

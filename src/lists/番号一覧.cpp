@@ -1,5 +1,7 @@
 #include "lists/番号一覧.h"
 
+#include <QStringBuilder>
+
 #include "dataenv/データ環境.h"
 #include "slip/出金セッション.h"
 #include "text/項目編集.h"
@@ -95,7 +97,7 @@ void 番号一覧::項目を加える(記録集合& rs, QStringList 欄群) {
     一覧項目 項;
     項.Text = 欄(rs, 2);
     // The document's key without separators: office, number base date, number.
-    項.Key = u"C"_qs + 欄(rs, 0) + 欄(rs, 1) + 項.Text;
+    項.Key = u"C"_qs % 欄(rs, 0) % 欄(rs, 1) % 項.Text;
     項.SubItems = std::move(欄群);
     一覧().項目追加(std::move(項));
 }

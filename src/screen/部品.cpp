@@ -39,6 +39,15 @@ void 部品::項目クリア() {
     ++項目版;
 }
 
+QList<一覧項目> 部品::項目取出し() {
+    QList<一覧項目> 前 = std::move(項目);
+    項目 = {};
+    項目.reserve(前.capacity());
+    選択 = -1;
+    ++項目版;
+    return 前;
+}
+
 QString 部品::セル(int 行, int 列番号) const {
     if (行 < 0 || 行 >= 項目.size()) return {};
     const 一覧項目& r = 項目.at(行);

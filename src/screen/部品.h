@@ -108,6 +108,8 @@ struct 部品 {
     bool Sorted = false;
     int 項目版 = 0;  // counts every change of the rows, so that a window redraws only then
     void 項目クリア();
+    // The same, handing the former rows to the caller, who lets them go when it suits.
+    QList<一覧項目> 項目取出し();
     // Adds a row at the end; the first row into an empty list becomes the selected one, as the
     // platform's list view does. While sorting is on, the filler sorts once it has added all.
     void 項目追加(一覧項目 項目);

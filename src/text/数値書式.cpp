@@ -143,8 +143,51 @@ QString 書式(const 十進数& 値, QStringView マスク) {
     return (値.負 && !値.ゼロか()) ? u'-' + 結果 : 結果;
 }
 
+namespace {
+
+// A mask of digit places alone, grouped or not ("#,###,###,##0", "##0", "000"): how many
+// places it always writes, and whether it groups. A point, a trailing comma or any other
+// character sends the value the long way.
+bool 整数桁だけ(QStringView マスク, int& 最少桁, bool& 区切り) {
+    if (マスク.isEmpty() || !桁記号か(マスク.front()) || !桁記号か(マスク.back())) return false;
+    最少桁 = 0;
+    区切り = false;
+    for (QChar c : マスク) {
+        if (c == u',') {
+            区切り = true;
+        } else if (c == u'0' || (c == u'#' && 最少桁 > 0)) {
+            ++最少桁;
+        } else if (c != u'#') {
+            return false;
+        }
+    }
+    // More places than a 64-bit value has digits go the long way too.
+    return 最少桁 <= 20;
+}
+
+}  // namespace
+
 QString 書式(const 金額& 値, QStringView マスク) {
-    return 書式(値.十進表記(), マスク);
+    int 最少桁 = 0;
+    bool 区切り = false;
+    if (!整数桁だけ(マスク, 最少桁, 区切り)) return 書式(値.十進表記(), マスク);
+    // Money is whole ten-thousandths: half away from zero to whole yen in integers, the rule
+    // the long way applies too. Unsigned, so that the lowest value has a magnitude.
+    const qint64 万分 = 値.万分単位();
+    const quint64 絶対値 = 万分 < 0 ? 0 - static_cast<quint64>(万分) : static_cast<quint64>(万分);
+    quint64 円 = 絶対値 / 金額::一円 + (絶対値 % 金額::一円 >= 金額::一円 / 2 ? 1 : 0);
+    char16_t 桁[32];
+    int 桁数 = 0;
+    for (; 円 > 0; 円 /= 10) 桁[桁数++] = static_cast<char16_t>(u'0' + 円 % 10);
+    while (桁数 < 最少桁) 桁[桁数++] = u'0';
+    QString 結果;
+    結果.reserve(1 + 桁数 + 桁数 / 3);
+    if (万分 < 0) 結果 += u'-';
+    for (int i = 桁数 - 1; i >= 0; --i) {
+        結果 += QChar(桁[i]);
+        if (区切り && i > 0 && i % 3 == 0) 結果 += u',';
+    }
+    return 結果;
 }
 
 QString 書式(double 値, QStringView マスク) {

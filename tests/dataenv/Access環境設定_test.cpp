@@ -109,8 +109,9 @@ TEST_P(Access版表, フォルダ名が鍵の版を決める) {
         EXPECT_EQ(場所のパス(版, u"Location0"_qs), 帳票 + u"/"_qs);
         EXPECT_EQ(数値(場所(版) + u"\\Location0"_qs, u"AllowSubfolder"_qs), 1u);
         for (const char16_t* 他 : {u"12.0", u"14.0", u"15.0", u"16.0", u"17.0"}) {
-            if (QString::fromUtf16(他) != 版)
+            if (QString::fromUtf16(他) != 版) {
                 EXPECT_FALSE(登録簿.キーあり(場所(QString::fromUtf16(他))));
+            }
         }
     }
     EXPECT_TRUE(基盤.表示済み.isEmpty());
@@ -315,7 +316,7 @@ TEST_F(Access環境設定, 新しい鍵に書けなければ書くたびに知�
 // Office 14 alone speaks of a subkey that does not open (twice: its Path cannot be read then
 // either) and of a Path that cannot be read; the walk goes on all the same.
 TEST_F(Access環境設定, 版14だけは読めない鍵を知らせる) {
-    for (const QString 版 : {u"14.0"_qs, u"16.0"_qs}) {
+    for (const QString& 版 : {u"14.0"_qs, u"16.0"_qs}) {
         登録簿 = 記憶レジストリ();
         基盤.表示済み.clear();
         Accessあり(版 == u"14.0" ? u"C:\\Office14\\"_qs : Office16);

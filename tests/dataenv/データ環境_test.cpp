@@ -144,6 +144,26 @@ TEST_P(データ層, 金額の列は四桁の小数まで正確に読める) {
     rs.閉じる();
 }
 
+TEST_P(データ層, 金額は列の位置でも名前と同じに読め整数も小数も範囲外も変わらない) {
+    ASSERT_TRUE(木->業務DB実行(
+        u"UPDATE Mユーザ SET 現金決済金額 = 16500 WHERE ID = '0001'"_qs));
+    記録集合 rs;
+    ASSERT_TRUE(環境.業務DB検索(
+        rs,
+        u"SELECT 現金決済金額, 0.5, -7, 922337203685478, NULL FROM Mユーザ WHERE ID = '0001'"_qs));
+    EXPECT_EQ(rs.金額値(0), 金額::円(16500));
+    EXPECT_EQ(rs.金額値(0), rs.金額値(u"現金決済金額"_qs));
+    EXPECT_EQ(rs.金額値(1), 金額::万分単位から(5000));
+    EXPECT_EQ(rs.金額値(2), 金額::円(-7));
+    // Beyond the range of money, and Null, read as nothing.
+    EXPECT_EQ(rs.金額値(3), 金額());
+    EXPECT_TRUE(rs.Null(4));
+    EXPECT_FALSE(rs.Null(0));
+    EXPECT_EQ(rs.金額値(4), 金額());
+    EXPECT_EQ(rs.金額値(5), 金額());
+    rs.閉じる();
+}
+
 TEST_P(データ層, 入れ子の外部結合の中と同名の列も名前で読める) {
     ASSERT_TRUE(木->業務DB実行(
         u"INSERT INTO T出金 (事業所コード, 番号基準日付, 出金No, 担当者コード, 部門コード) VALUES ('000', '20260331', '00000001', '00005', '777')"_qs));

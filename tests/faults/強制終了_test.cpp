@@ -81,8 +81,12 @@ TEST_P(強制終了, 登録のどの時点で殺されても伝票は全部か�
             EXPECT_EQ(r.未集計, 2) << p.toStdString();
             入った = true;
         }
-        if (p == u"before") EXPECT_EQ(r.後, u"none"_qs);
-        if (p == u"after") EXPECT_EQ(r.後, u"1000,2000,3000"_qs);
+        if (p == u"before") {
+            EXPECT_EQ(r.後, u"none"_qs);
+        }
+        if (p == u"after") {
+            EXPECT_EQ(r.後, u"1000,2000,3000"_qs);
+        }
 
         // The next run stores on: its slip takes the next number and arrives whole.
         台本プラットフォーム 次の基盤;

@@ -26,7 +26,9 @@ class 一覧操作 : public 基 {
         if (testing::Test::HasFatalFailure()) return;
         // A tree with the HR system beside it: the link opens as the start opens it.
         s.白樺連携フラグ = s.データ.人事連携選択(u"白樺"_qs);
-        if (s.白樺連携フラグ) ASSERT_TRUE(s.データ.人事連携開始());
+        if (s.白樺連携フラグ) {
+            ASSERT_TRUE(s.データ.人事連携開始());
+        }
         f = std::make_unique<frm紺碧帳>(s);
         f->画面読込([this] { s.出金情報初期化(); });
         集 = std::make_unique<一覧画面集>(s, f->画面);

@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <limits>
+#include <random>
+#include <vector>
+
 #include "text/数値書式.h"
 
 namespace {
@@ -59,6 +63,54 @@ TEST(数値書式, 一覧の金額は三桁ごとに区切る) {
     EXPECT_EQ(書式(円(1000), u"#,###,###,##0"), u"1,000");
     EXPECT_EQ(書式(円(-100), u"#,###,###,##0"), u"-100");
     EXPECT_EQ(書式(円(12345678901234), u"#,###,###,##0"), u"12,345,678,901,234");
+}
+
+TEST(数値書式, 金額は桁記号と区切りだけのマスクでも半分は零から遠くへ丸める) {
+    EXPECT_EQ(書式(万(12345675000), u"#,###,###,##0"), u"1,234,568");
+    EXPECT_EQ(書式(万(-12345675000), u"#,###,###,##0"), u"-1,234,568");
+    EXPECT_EQ(書式(万(12345674999), u"#,###,###,##0"), u"1,234,567");
+    EXPECT_EQ(書式(万(-4999), u"#,###,###,##0"), u"-0");
+    EXPECT_EQ(書式(万(-4999), u"###"), u"-");
+    EXPECT_EQ(書式(万(5000), u"###"), u"1");
+    EXPECT_EQ(書式(円(5), u"0,000"), u"0,005");
+    EXPECT_EQ(書式(円(5), u"#0#"), u"05");
+    EXPECT_EQ(書式(万(std::numeric_limits<qint64>::min()), u"#,##0"), u"-922,337,203,685,478");
+    EXPECT_EQ(書式(万(std::numeric_limits<qint64>::max()), u"0"), u"922337203685478");
+}
+
+// Money goes a short way when the mask has digit places and group commas alone; whatever the
+// mask and the value, it writes what the decimal way writes.
+TEST(数値書式, 金額の近道は十進の書式と同じ文字を書く) {
+    const QStringView マスク群[] = {u"#,###,###,##0", u"##########0", u"###,###,##0", u"###",
+                                     u"000", u"00000000", u"0", u"#", u"0,000", u"#0#",
+                                     u"#,,##0", u"##0.00", u"#,##0,", u",##0", u"0.##",
+                                     u"000000000000000000000"};
+    std::mt19937_64 乱数(20261125);
+    std::vector<qint64> 値群 = {0,
+                                1,
+                                -1,
+                                4999,
+                                5000,
+                                -5000,
+                                15000,
+                                -25000,
+                                99995000,
+                                std::numeric_limits<qint64>::max(),
+                                std::numeric_limits<qint64>::min(),
+                                std::numeric_limits<qint64>::min() + 1};
+    for (int i = 0; i < 3000; ++i) {
+        const int 桁 = static_cast<int>(乱数() % 19);
+        qint64 v = static_cast<qint64>(乱数() % 1000000000000000000ULL);
+        for (int j = 0; j < 18 - 桁; ++j) v /= 10;
+        値群.push_back(乱数() % 2 ? -v : v);
+    }
+    for (const QStringView マスク : マスク群) {
+        for (const qint64 v : 値群) {
+            const 金額 値 = 万(v);
+            ASSERT_EQ(書式(値, マスク), 書式(値.十進表記(), マスク))
+                << v << " " << マスク.toString().toStdString();
+        }
+    }
 }
 
 TEST(数値書式, 百分率は整数に四捨五入して書く) {

@@ -33,7 +33,9 @@ class 一覧ウィンドウ試験 : public ::testing::Test {
         if (HasFatalFailure()) return;
         // A tree with the HR system beside it: the link opens as the start opens it.
         s.白樺連携フラグ = s.データ.人事連携選択(u"白樺"_qs);
-        if (s.白樺連携フラグ) ASSERT_TRUE(s.データ.人事連携開始());
+        if (s.白樺連携フラグ) {
+            ASSERT_TRUE(s.データ.人事連携開始());
+        }
         f.画面読込([this] { s.出金情報初期化(); });
         for (const auto& x : 集.全部()) 基盤.画面登録(x->画面.名前, x->画面);
         主窓 = std::make_unique<ScreenWindow>(f.画面);
