@@ -50,6 +50,11 @@ QVariant 記録集合::値(int 列) const {
     return 当行あり && 列 >= 0 && 列 < 列数() ? 問合せ->value(列) : QVariant();
 }
 
+QString 記録集合::文字列(int 列) const {
+    // A Null value's text is already the empty one.
+    return 当行あり && 列 >= 0 && 列 < 列数() ? 問合せ->value(列).toString() : QString();
+}
+
 QString 記録集合::文字列(const QString& 列名) const {
     const QVariant v = 値(列名);
     return v.isNull() ? QString() : v.toString();

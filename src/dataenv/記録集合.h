@@ -28,6 +28,7 @@ class 記録集合 {
     QVariant 値(int 列) const;
     // Null reads as "" and 0, the rule most readers of the suite follow.
     QString 文字列(const QString& 列名) const;
+    QString 文字列(int 列) const;
     // Numeric value of the column's text, as the suite reads numbers stored as text or number.
     double 数値(const QString& 列名) const;
     short 整数(const QString& 列名) const;

@@ -54,6 +54,6 @@ QList<一覧列> wnd出金No一覧::列群() const {
 void wnd出金No一覧::行を加える(記録集合& rs, int) {
     // The columns in the order of the SELECT: office, base date, number, date, staff, total,
     // staff name.
-    項目を加える(rs, {欄(rs, 3), 欄(rs, 4), 欄(rs, 6),
+    項目を加える(rs, {rs.文字列(3), rs.文字列(4), rs.文字列(6),
                       rs.Null(5) ? QString() : 書式(rs.金額値(5), 数値書式::一覧金額)});
 }

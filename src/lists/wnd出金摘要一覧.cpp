@@ -92,15 +92,15 @@ QString wnd出金摘要一覧::検索文作成() {
 
 void wnd出金摘要一覧::行を加える(記録集合& rs, int 件数) {
     一覧項目 項;
-    const QVariant 先頭 = rs.値(0);
-    if (!先頭.isNull()) 項.Text = 先頭.toString();
+    項.Text = rs.文字列(0);
     if (!重複あり) {
         項.Key = u"C"_qs + 項.Text;
     } else {
         // Without DISTINCT the same text comes more than once; the counter, written in eleven
         // places, keeps the keys apart.
         char16_t 番号[11] = {u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0'};
-        for (int i = 10, n = 件数 + 1; n > 0 && i >= 0; --i, n /= 10) 番号[i] = char16_t(u'0' + n % 10);
+        for (int i = 10, n = 件数 + 1; n > 0 && i >= 0; --i, n /= 10)
+            番号[i] = char16_t(u'0' + n % 10);
         項.Key = u"C"_qs % QStringView(番号, 11) % 項.Text;
     }
     一覧().項目追加(std::move(項));

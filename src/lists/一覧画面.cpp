@@ -234,13 +234,11 @@ void 一覧画面::一覧検索実行() {
 void 一覧画面::行を加える(記録集合& rs, int) {
     一覧項目 項;
     項.SubItems.reserve(rs.列数());
-    項.Text = rs.値(0).toString();
+    項.Text = rs.文字列(0);
     // A key must not be purely numeric.
     項.Key = u"C"_qs + 項.Text;
-    for (int c = 1; c < rs.列数(); ++c) {
-        const QVariant v = rs.値(c);
-        項.SubItems << (v.isNull() ? QString() : v.toString());
-    }
+    // A Null column leaves its cell empty.
+    for (int c = 1; c < rs.列数(); ++c) 項.SubItems << rs.文字列(c);
     一覧().項目追加(std::move(項));
 }
 

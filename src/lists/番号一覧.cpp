@@ -88,16 +88,11 @@ QString 番号一覧::検索文作成() {
     return q.文 + QString::fromUtf16(順);
 }
 
-QString 番号一覧::欄(記録集合& rs, int 列) {
-    const QVariant v = rs.値(列);
-    return v.isNull() ? QString() : v.toString();
-}
-
 void 番号一覧::項目を加える(記録集合& rs, QStringList 欄群) {
     一覧項目 項;
-    項.Text = 欄(rs, 2);
+    項.Text = rs.文字列(2);
     // The document's key without separators: office, number base date, number.
-    項.Key = u"C"_qs % 欄(rs, 0) % 欄(rs, 1) % 項.Text;
+    項.Key = u"C"_qs % rs.文字列(0) % rs.文字列(1) % 項.Text;
     項.SubItems = std::move(欄群);
     一覧().項目追加(std::move(項));
 }

@@ -48,7 +48,6 @@ class 番号一覧 : public 一覧画面 {
     // A row's item: the number (SELECT column 2) as its text and the key made of the first
     // three columns, then the cells given.
     void 項目を加える(記録集合& rs, QStringList 欄);
-    static QString 欄(記録集合& rs, int 列);
 
     const 番号一覧定義& 定;
 };

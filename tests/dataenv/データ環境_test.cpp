@@ -161,7 +161,12 @@ TEST_P(データ層, 金額は列の位置でも名前と同じに読め整数�
     EXPECT_FALSE(rs.Null(0));
     EXPECT_EQ(rs.金額値(4), 金額());
     EXPECT_EQ(rs.金額値(5), 金額());
+    // By place the text reads as by name: Null and a column past the last are empty.
+    EXPECT_EQ(rs.文字列(2), u"-7"_qs);
+    EXPECT_TRUE(rs.文字列(4).isEmpty());
+    EXPECT_TRUE(rs.文字列(5).isEmpty());
     rs.閉じる();
+    EXPECT_TRUE(rs.文字列(2).isEmpty());
 }
 
 TEST_P(データ層, 入れ子の外部結合の中と同名の列も名前で読める) {
