@@ -109,7 +109,7 @@ void frm紺碧帳::付属書類を開く(const QString& Key) {
 void frm紺碧帳::付属書類listint() {
     表示中([this] {
         部品& 一覧 = 画面(u"List付属書類"_qs);
-        一覧.列 = {{u"書類名"_qs, 4200}, {u"サイズ"_qs, 1600}, {u"更新日付"_qs, 1700}};
+        一覧.列 = {{u"書類名"_qs, 4200}, {u"サイズ"_qs, 1600, true}, {u"更新日付"_qs, 1700}};
         一覧.項目クリア();
         // The documents of the slip on screen, once it has a number.
         if (画面(u"出金No"_qs).Text.isEmpty()) return;

@@ -60,10 +60,12 @@ struct 部品定義 {
     const char16_t* 結び = u"";  // a title panel: the item a click on it stands for
 };
 
-// A column of a list view in report mode: its heading and width in twips.
+// A column of a list view in report mode: its heading, width in twips, and whether its text
+// stands at the right edge, as figures do.
 struct 一覧列 {
     QString 見出し;
     int 幅 = 0;
+    bool 右寄せ = false;
 };
 
 // One row of a list view: the first column's text, the key that finds the row, and the further

@@ -22,6 +22,10 @@ constexpr int 画素(int twips) {
     return twips / 15;
 }  // 15 twips to a pixel at 96 dpi
 
+Qt::Alignment 寄せ(const 一覧列& 列) {
+    return (列.右寄せ ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
+}
+
 // A field takes what its control takes as it is typed; the rule is the model's.
 class 部品の検査 : public QValidator {
   public:
@@ -196,7 +200,10 @@ void ScreenWindow::行を描く(const 部品& p, QTreeWidget* t) {
     if (今の見出し != 見出し) {
         t->setColumnCount(static_cast<int>(p.列.size()));
         t->setHeaderLabels(見出し);
-        for (int i = 0; i < p.列.size(); ++i) t->setColumnWidth(i, 画素(p.列.at(i).幅));
+        for (int i = 0; i < p.列.size(); ++i) {
+            t->setColumnWidth(i, 画素(p.列.at(i).幅));
+            t->headerItem()->setTextAlignment(i, 寄せ(p.列.at(i)));
+        }
     }
     if (描いた版.value(&p, -1) != p.項目版) {
         描いた版[&p] = p.項目版;
@@ -205,7 +212,10 @@ void ScreenWindow::行を描く(const 部品& p, QTreeWidget* t) {
         行.reserve(p.項目.size());
         for (int r = 0; r < p.項目.size(); ++r) {
             auto* i = new QTreeWidgetItem;
-            for (int c = 0; c < p.列.size(); ++c) i->setText(c, p.セル(r, c));
+            for (int c = 0; c < p.列.size(); ++c) {
+                i->setText(c, p.セル(r, c));
+                if (p.列.at(c).右寄せ) i->setTextAlignment(c, 寄せ(p.列.at(c)));
+            }
             行.append(i);
         }
         t->addTopLevelItems(行);

@@ -68,10 +68,13 @@ TEST_P(出張申請一覧, 入力画面から開くと一年前からの申請�
         EXPECT_EQ(x.一覧().項目.value(0).Key, u"C0012027033100000002"_qs);
         QStringList 見出し;
         QList<int> 幅;
+        QList<bool> 右;
         for (const 一覧列& l : x.一覧().列) {
             見出し << l.見出し;
             幅 << l.幅;
+            右 << l.右寄せ;
         }
+        EXPECT_EQ(右, (QList<bool>{false, false, false, false, false, true, false}));
         EXPECT_EQ(見出し, (QStringList{u"申請No"_qs, u"申請日付"_qs, u"コード"_qs, u"社員名"_qs,
                                        u"出張日付"_qs, u"日数"_qs, u"区分"_qs}));
         EXPECT_EQ(幅, (QList<int>{1150, 1150, 1050, 2000, 1150, 850, 1150}));

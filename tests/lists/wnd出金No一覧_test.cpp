@@ -40,6 +40,8 @@ TEST_P(出金No一覧, 入力画面から開くと一年前からの新しい順
                                                    .addYears(-1)
                                                    .toString(u"yyyyMMdd"_qs));
         EXPECT_EQ(x.一覧().列.value(2).見出し, u"仕コード"_qs);
+        // Only the money stands at the right edge of its column.
+        for (int i = 0; i < 5; ++i) EXPECT_EQ(x.一覧().列.value(i).右寄せ, i == 4) << i;
         EXPECT_EQ(x.一覧().セル(0, 1), u"20251101"_qs);
         EXPECT_EQ(x.一覧().セル(0, 2), u"00003"_qs);
         EXPECT_EQ(x.一覧().セル(0, 3), u"上田 健一"_qs);

@@ -85,6 +85,8 @@ TEST_F(付属書類画面, 保存した伝票では追加が使え削除は書�
     ASSERT_EQ(L.列.size(), 3);
     EXPECT_EQ(L.列[0].見出し, u"書類名"_qs);
     EXPECT_EQ(L.列[1].見出し, u"サイズ"_qs);
+    EXPECT_TRUE(L.列[1].右寄せ);
+    EXPECT_FALSE(L.列[0].右寄せ);
     EXPECT_EQ(L.列[2].見出し, u"更新日付"_qs);
     EXPECT_EQ(L.項目[0].Key, u"C"_qs + 識別(No) + u"001"_qs);
 }

@@ -321,6 +321,12 @@ TEST_F(一覧ウィンドウ試験, 出金No一覧で選ぶと伝票が読まれ
     窓で(u"出金No一覧"_qs, [](ScreenWindow& 窓, 画面モデル& m) {
         auto* 一覧 = qobject_cast<QTreeWidget*>(窓.ウィジェット(m(u"List出金No"_qs)));
         ASSERT_EQ(一覧->topLevelItemCount(), 2);
+        // The money column's figures and heading stand at the right, the number at the left.
+        EXPECT_EQ(一覧->topLevelItem(0)->textAlignment(4) & Qt::AlignHorizontal_Mask,
+                  Qt::AlignRight);
+        EXPECT_EQ(一覧->headerItem()->textAlignment(4) & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+        EXPECT_NE(一覧->topLevelItem(0)->textAlignment(0) & Qt::AlignHorizontal_Mask,
+                  Qt::AlignRight);
         押す(窓, m, u"btn_複合検索"_qs);
         キー(窓, m, Qt::Key_Down);
         キー(窓, m, Qt::Key_Return);
