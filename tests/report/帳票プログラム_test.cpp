@@ -90,7 +90,6 @@ TEST_P(帳票プログラム, プレビュは本物の紺碧帳書が一頁を�
     EXPECT_TRUE(付属書類().isEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(エンジン, 帳票プログラム, ::testing::Values(false, true),
-                         [](const auto& i) { return i.param ? "PostgreSQL" : "SQLite"; });
+KONPEKI_両エンジンで(帳票プログラム);
 
 }  // namespace

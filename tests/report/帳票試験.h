@@ -6,6 +6,7 @@
 #include <QProcess>
 #include <memory>
 
+#include "common/エンジン別試験.h"
 #include "common/出金入力.h"
 #include "common/出金準備.h"
 #include "common/試験用ツリー.h"
@@ -15,15 +16,11 @@
 
 // The sample company with slips typed through the session and stored by its store routine, on
 // both engines; the report program then reads them as another process would.
-class 帳票試験 : public ::testing::TestWithParam<bool> {
+class 帳票試験 : public エンジン別試験 {
   protected:
     void SetUp() override {
-        if (GetParam()) {
-            if (!試験用PostgreSQL::利用可能()) GTEST_SKIP() << "KONPEKI_TEST_PG is not set";
-            pg = std::make_unique<試験用PostgreSQL>();
-        }
-        木 = std::make_unique<試験用ツリー>(pg ? pg->接続情報() : QString());
-        ASSERT_TRUE(木->作成済み) << 木->エラー.toStdString();
+        エンジン別試験::SetUp();
+        if (HasFatalFailure() || IsSkipped()) return;
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
         出金セッション準備(s, *木);
     }
@@ -81,8 +78,5 @@ class 帳票試験 : public ::testing::TestWithParam<bool> {
         return QStringLiteral(KONPEKI_ARTIFACTS) + u"/"_qs + 名前;
     }
 
-    std::unique_ptr<試験用PostgreSQL> pg;
-    std::unique_ptr<試験用ツリー> 木;
-    台本プラットフォーム 基盤;
     出金セッション s{基盤};
 };

@@ -161,7 +161,6 @@ TEST_P(紺碧帳書試験, 頁の絵は十五行の表と合計を描く) {
     EXPECT_GT(差, 10000);
 }
 
-INSTANTIATE_TEST_SUITE_P(エンジン, 紺碧帳書試験, ::testing::Values(false, true),
-                         [](const auto& i) { return i.param ? "PostgreSQL" : "SQLite"; });
+KONPEKI_両エンジンで(紺碧帳書試験);
 
 }  // namespace

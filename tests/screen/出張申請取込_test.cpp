@@ -16,16 +16,11 @@ const QString 今期 = u"20270331"_qs;
 // The entry screen of a company linked to the HR system, its general database in SQLite or in
 // PostgreSQL; the session opened the link as the start does. Today is 2026-11-23, the slip is
 // empty and its header filled with staff 00003.
-class 出張申請取込 : public ::testing::TestWithParam<bool> {
+class 出張申請取込 : public 人事連携試験 {
   protected:
     void SetUp() override {
-        if (GetParam()) {
-            if (!試験用PostgreSQL::利用可能()) GTEST_SKIP() << "KONPEKI_TEST_PG is not set";
-            pg = std::make_unique<試験用PostgreSQL>();
-        }
-        木 = std::make_unique<試験用ツリー>(QString(), true, pg ? pg->接続情報() : QString());
-        ASSERT_TRUE(木->作成済み) << 木->エラー.toStdString();
-        基盤.時刻 = QDateTime(QDate(2026, 11, 23), QTime(10, 0, 0));
+        人事連携試験::SetUp();
+        if (HasFatalFailure() || IsSkipped()) return;
         出金セッション準備(s, *木);
         if (HasFatalFailure()) return;
         s.白樺連携フラグ = s.データ.人事連携選択(u"白樺"_qs);
@@ -103,9 +98,6 @@ class 出張申請取込 : public ::testing::TestWithParam<bool> {
         };
     }
 
-    std::unique_ptr<試験用PostgreSQL> pg;
-    std::unique_ptr<試験用ツリー> 木;
-    台本プラットフォーム 基盤;
     出金セッション s{基盤};
     std::unique_ptr<frm紺碧帳> f;
 };
