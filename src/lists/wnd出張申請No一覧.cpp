@@ -64,8 +64,7 @@ QList<一覧列> wnd出張申請No一覧::列群() const {
 void wnd出張申請No一覧::行を加える(記録集合& rs, int) {
     // The columns in the order of the SELECT: office, base date, number, date, employee, start,
     // days, employee name, trip class name.
-    const QVariant 日数 = rs.値(6);
-    項目を加える(rs, {rs.文字列(3), rs.文字列(4), rs.文字列(7), rs.文字列(5),
-                      日数.isNull() ? QString() : 書式(rs.数値(u"日数"_qs), 数値書式::百分率),
-                      rs.文字列(8)});
+    項目を加える(
+        rs, {rs.文字列(3), rs.文字列(4), rs.文字列(7), rs.文字列(5),
+             rs.Null(6) ? QString() : 書式(rs.数値(u"日数"_qs), 数値書式::百分率), rs.文字列(8)});
 }
