@@ -37,6 +37,13 @@ wnd出金摘要一覧::wnd出金摘要一覧(出金セッション& セッショ
     };
     検索ボタン(u"btn_複合検索"_qs, 0);
     検索ボタン(u"btn_否定検索"_qs, -1);
+    // Keys are made when a pick asks for one.
+    一覧().鍵規則 = [this](const 一覧項目& 項) {
+        if (!重複あり) return u"C"_qs + 項.Text;
+        // Without DISTINCT the same text comes more than once; the place it was read in, written
+        // in eleven places, keeps the keys apart.
+        return QString(u"C"_qs % QString::number(項.順).rightJustified(11, u'0') % 項.Text);
+    };
 }
 
 void wnd出金摘要一覧::状態表示() {
@@ -93,15 +100,6 @@ QString wnd出金摘要一覧::検索文作成() {
 void wnd出金摘要一覧::行を加える(記録集合& rs, int 件数) {
     一覧項目 項;
     項.Text = rs.文字列(0);
-    if (!重複あり) {
-        項.Key = u"C"_qs + 項.Text;
-    } else {
-        // Without DISTINCT the same text comes more than once; the counter, written in eleven
-        // places, keeps the keys apart.
-        char16_t 番号[11] = {u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0', u'0'};
-        for (int i = 10, n = 件数 + 1; n > 0 && i >= 0; --i, n /= 10)
-            番号[i] = char16_t(u'0' + n % 10);
-        項.Key = u"C"_qs % QStringView(番号, 11) % 項.Text;
-    }
+    項.順 = 件数 + 1;
     一覧().項目追加(std::move(項));
 }

@@ -23,6 +23,8 @@
         if (キー == 13) 選ぶ();
     };
     L.ColumnClick = [this](int 列番号) { 列見出しクリック(列番号); };
+    // A key must not be purely numeric; it is made when a pick asks for it.
+    L.鍵規則 = [](const 一覧項目& 項) { return u"C"_qs + 項.Text; };
     画面(u"btn_戻る"_qs).Click = [this] { 戻る(); };
     画面(u"btn_画面クリア"_qs).Click = [this] { 条件クリア(); };
 }
@@ -235,8 +237,6 @@ void 一覧画面::行を加える(記録集合& rs, int) {
     一覧項目 項;
     項.SubItems.reserve(rs.列数());
     項.Text = rs.文字列(0);
-    // A key must not be purely numeric.
-    項.Key = u"C"_qs + 項.Text;
     // A Null column leaves its cell empty.
     for (int c = 1; c < rs.列数(); ++c) 項.SubItems << rs.文字列(c);
     一覧().項目追加(std::move(項));
@@ -265,7 +265,7 @@ void 一覧画面::選ぶ() {
     if (L.選択 < 0 || L.選択 >= L.項目.size()) return;
     const 一覧項目 項 = L.項目.at(L.選択);
     // The number and description lists answer with the row's key, which outlives the close.
-    if (鍵を返す()) s.一覧条件文字列 = 項.Key;
+    if (鍵を返す()) s.一覧条件文字列 = L.鍵(L.選択);
     if (部品* 先 = s.一覧設定先項目) 先->所属->文字設定(*先, 項.Text);
     閉じる();
     if (!鍵を返す()) s.一覧条件文字列.clear();

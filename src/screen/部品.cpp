@@ -60,9 +60,14 @@ void 部品::項目追加(一覧項目 新) {
     ++項目版;
 }
 
+QString 部品::鍵(int 行) const {
+    if (行 < 0 || 行 >= 項目.size()) return {};
+    const 一覧項目& r = 項目.at(行);
+    return r.Key.isEmpty() && 鍵規則 ? 鍵規則(r) : r.Key;
+}
+
 void 部品::並べ替え() {
     if (項目.isEmpty()) return;
-    const QString 選択鍵 = 選択 >= 0 ? 項目.at(選択).Key : QString();
     QList<int> 順(項目.size());
     for (int i = 0; i < 順.size(); ++i) 順[i] = i;
     std::stable_sort(順.begin(), 順.end(), [this](int a, int b) {
@@ -73,11 +78,7 @@ void 部品::並べ替え() {
     並び.reserve(順.size());
     for (int i : 順) 並び.append(項目.at(i));
     項目 = std::move(並び);
-    if (選択 >= 0) {
-        選択 = -1;
-        for (int i = 0; i < 項目.size() && 選択 < 0; ++i) {
-            if (項目.at(i).Key == 選択鍵) 選択 = i;
-        }
-    }
+    // The selected row stays selected wherever it went.
+    if (選択 >= 0) 選択 = static_cast<int>(順.indexOf(選択));
     ++項目版;
 }

@@ -69,11 +69,13 @@ struct 一覧列 {
 };
 
 // One row of a list view: the first column's text, the key that finds the row, and the further
-// columns; an empty sub-item is an empty cell.
+// columns; an empty sub-item is an empty cell. A list whose keys follow from the row leaves Key
+// empty and gives its rule (部品::鍵規則); 順 is the place the row was read in, from 1.
 struct 一覧項目 {
     QString Text;
     QString Key;
     QStringList SubItems;
+    int 順 = 0;
 };
 
 // One control of a screen model: the row of the table it was made from, and the properties the
@@ -118,6 +120,9 @@ struct 部品 {
     // Sorts the rows by the text of column SortKey; the selected row stays selected.
     void 並べ替え();
     QString セル(int 行, int 列番号) const;
+    // The key of a row: its own, or the one the list's rule makes of it.
+    QString 鍵(int 行) const;
+    std::function<QString(const 一覧項目&)> 鍵規則;
 
     // Events; each model routine sets those it handles.
     std::function<void()> GotFocus;

@@ -55,7 +55,7 @@ TEST_P(出金摘要一覧, 先頭20文字が同じ摘要はSとOでは一度だ�
     QStringList 行, 鍵;
     操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
         行 = 列(x);
-        for (const auto& r : x.一覧().項目) 鍵 << r.Key;
+        for (int i = 0; i < x.一覧().項目.size(); ++i) 鍵 << x.一覧().鍵(i);
     };
     開く();
     const QString 先頭 = u"あいうえおかきくけこさしすせそたちつてと"_qs;
@@ -108,12 +108,34 @@ TEST_P(出金摘要一覧, 検索文字列は先頭20文字の中でだけ合い
     開く();
 }
 
+TEST_P(出金摘要一覧, 列の並べ替えの後も行の鍵は読んだ順を持ち選んだ行の鍵が返る) {
+    保存(u"20251101"_qs, {u"あいう"_qs, u"いろは"_qs});
+    QString 鍵;
+    操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
+        部品& L = x.一覧();
+        x.画面.操作_キー(L, 40);  // the first row, "あいう"
+        // The one column is already the sort key, so a click on it turns the order round.
+        x.画面.操作_列クリック(L, 0);
+        EXPECT_EQ(L.セル(0, 0), u"いろは"_qs);
+        // The selected row went along with the sort.
+        EXPECT_EQ(L.選択, 1);
+        EXPECT_EQ(L.鍵(0), A() ? u"C00000000002いろは"_qs : u"Cいろは"_qs);
+        EXPECT_EQ(L.鍵(1), A() ? u"C00000000001あいう"_qs : u"Cあいう"_qs);
+        x.画面.操作_キー(L, 38);
+        鍵 = L.鍵(L.選択);
+        x.画面.操作_キー(L, 13);
+    };
+    開く();
+    EXPECT_EQ(鍵, A() ? u"C00000000002いろは"_qs : u"Cいろは"_qs);
+    EXPECT_EQ(s.一覧条件文字列, 鍵);
+}
+
 TEST_P(出金摘要一覧, 選ぶと鍵が返り窓は閉じ費目区分に文字が入ってから摘要へ進む) {
     保存(u"20251101"_qs, {u"ボールペン"_qs});
     QString 鍵;
     操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
         x.画面.操作_キー(x.一覧(), 40);
-        鍵 = x.一覧().項目.value(0).Key;
+        鍵 = x.一覧().鍵(0);
         x.画面.操作_キー(x.一覧(), 13);
     };
     開く();

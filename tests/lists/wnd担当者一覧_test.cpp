@@ -37,7 +37,7 @@ TEST_P(担当者一覧, 入力画面から開くと在籍者だけがコード�
         EXPECT_EQ(列(x, 2).value(0), u"本社"_qs);
         EXPECT_EQ(列(x, 3).value(0), u"経理部"_qs);
         EXPECT_EQ(列(x, 4).value(0), u"経理課"_qs);
-        EXPECT_EQ(x.一覧().項目.value(0).Key, u"C00001"_qs);
+        EXPECT_EQ(x.一覧().鍵(0), u"C00001"_qs);
     };
     開く();
     // 00012 has left; every office's staff show.

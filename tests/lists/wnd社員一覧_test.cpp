@@ -50,7 +50,7 @@ TEST_P(社員一覧, 開くと人事の在籍者がコード順に並び区分�
         EXPECT_EQ(列(x, 2).value(0), u"本社"_qs);
         EXPECT_EQ(列(x, 3).value(0), u"経理部"_qs);
         EXPECT_EQ(列(x, 4).value(0), u"経理課"_qs);
-        EXPECT_EQ(x.一覧().項目.value(0).Key, u"C00001"_qs);
+        EXPECT_EQ(x.一覧().鍵(0), u"C00001"_qs);
         QList<int> 幅;
         for (const 一覧列& l : x.一覧().列) 幅 << l.幅;
         EXPECT_EQ(幅, (QList<int>{750, 2500, 2300, 2300, 2300}));
