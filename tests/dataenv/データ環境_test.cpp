@@ -145,8 +145,7 @@ TEST_P(データ層, 金額の列は四桁の小数まで正確に読める) {
 }
 
 TEST_P(データ層, 金額は列の位置でも名前と同じに読め整数も小数も範囲外も変わらない) {
-    ASSERT_TRUE(木->業務DB実行(
-        u"UPDATE Mユーザ SET 現金決済金額 = 16500 WHERE ID = '0001'"_qs));
+    ASSERT_TRUE(木->業務DB実行(u"UPDATE Mユーザ SET 現金決済金額 = 16500 WHERE ID = '0001'"_qs));
     記録集合 rs;
     ASSERT_TRUE(環境.業務DB検索(
         rs,

@@ -81,10 +81,11 @@ TEST(数値書式, 金額は桁記号と区切りだけのマスクでも半分�
 // Money goes a short way when the mask has digit places and group commas alone; whatever the
 // mask and the value, it writes what the decimal way writes.
 TEST(数値書式, 金額の近道は十進の書式と同じ文字を書く) {
-    const QStringView マスク群[] = {u"#,###,###,##0", u"##########0", u"###,###,##0", u"###",
-                                     u"000", u"00000000", u"0", u"#", u"0,000", u"#0#",
-                                     u"#,,##0", u"##0.00", u"#,##0,", u",##0", u"0.##",
-                                     u"000000000000000000000"};
+    const QStringView マスク群[] = {
+        u"#,###,###,##0", u"##########0", u"###,###,##0", u"###",
+        u"000",           u"00000000",    u"0",           u"#",
+        u"0,000",         u"#0#",         u"#,,##0",      u"##0.00",
+        u"#,##0,",        u",##0",        u"0.##",        u"000000000000000000000"};
     std::mt19937_64 乱数(20261125);
     std::vector<qint64> 値群 = {0,
                                 1,
