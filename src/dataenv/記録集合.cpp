@@ -46,13 +46,17 @@ int 記録集合::列数() const {
     return 列一覧.count();
 }
 
+bool 記録集合::読める列(int 列) const {
+    return 当行あり && 列 >= 0 && 列 < 列数();
+}
+
 QVariant 記録集合::値(int 列) const {
-    return 当行あり && 列 >= 0 && 列 < 列数() ? 問合せ->value(列) : QVariant();
+    return 読める列(列) ? 問合せ->value(列) : QVariant();
 }
 
 QString 記録集合::文字列(int 列) const {
     // A Null value's text is already the empty one.
-    return 当行あり && 列 >= 0 && 列 < 列数() ? 問合せ->value(列).toString() : QString();
+    return 読める列(列) ? 問合せ->value(列).toString() : QString();
 }
 
 QString 記録集合::文字列(const QString& 列名) const {

@@ -39,6 +39,7 @@ class 記録集合 {
   private:
     friend class データ接続;
     int 列番号(const QString& 列名) const;
+    bool 読める列(int 列) const;  // a column of the current row
 
     std::unique_ptr<QSqlQuery> 問合せ;
     bool 当行あり = false;

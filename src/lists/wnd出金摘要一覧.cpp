@@ -1,11 +1,11 @@
 #include "lists/wnd出金摘要一覧.h"
 
 #include <QDate>
-#include <QStringBuilder>
 
 #include "dataenv/データ環境.h"
 #include "slip/出金セッション.h"
 #include "text/プラットフォーム.h"
+#include "text/数値書式.h"
 #include "text/項目編集.h"
 
 namespace {
@@ -39,10 +39,10 @@ wnd出金摘要一覧::wnd出金摘要一覧(出金セッション& セッショ
     検索ボタン(u"btn_否定検索"_qs, -1);
     // Keys are made when a pick asks for one.
     一覧().鍵規則 = [this](const 一覧項目& 項) {
-        if (!重複あり) return u"C"_qs + 項.Text;
-        // Without DISTINCT the same text comes more than once; the place it was read in, written
-        // in eleven places, keeps the keys apart.
-        return QString(u"C"_qs % QString::number(項.順).rightJustified(11, u'0') % 項.Text);
+        if (方言() != u"A") return u"C"_qs + 項.Text;
+        // Without DISTINCT the same text comes more than once; the place it was read in keeps
+        // the keys apart.
+        return u"C"_qs + 書式(項.順, u"00000000000") + 項.Text;
     };
 }
 
@@ -70,7 +70,6 @@ void wnd出金摘要一覧::条件クリア() {
 
 QString wnd出金摘要一覧::検索文作成() {
     const bool A = 方言() == u"A";
-    重複あり = A;
     const QString 先頭 = A ? u"LEFT(摘要,20)"_qs : u"SUBSTRING(摘要,1,20)"_qs;
     QString 文 = (A ? u"SELECT "_qs : u"SELECT DISTINCT "_qs) + 先頭 + u" AS 先頭摘要"_qs +
                  u" FROM T出金明細"_qs;
@@ -97,9 +96,8 @@ QString wnd出金摘要一覧::検索文作成() {
     return 文 + (A ? u" ORDER BY 摘要"_qs : u" ORDER BY 先頭摘要"_qs);
 }
 
-void wnd出金摘要一覧::行を加える(記録集合& rs, int 件数) {
+void wnd出金摘要一覧::行を加える(記録集合& rs, int) {
     一覧項目 項;
     項.Text = rs.文字列(0);
-    項.順 = 件数 + 1;
     一覧().項目追加(std::move(項));
 }

@@ -21,5 +21,4 @@ class wnd出金摘要一覧 : public 一覧画面 {
 
   private:
     void 状態表示();
-    bool 重複あり = false;  // the statement has no DISTINCT, so a text can come twice
 };

@@ -55,6 +55,7 @@ QString 部品::セル(int 行, int 列番号) const {
 }
 
 void 部品::項目追加(一覧項目 新) {
+    新.順 = static_cast<int>(項目.size()) + 1;
     項目.append(std::move(新));
     if (項目.size() == 1) 選択 = 0;
     ++項目版;

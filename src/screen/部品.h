@@ -70,7 +70,8 @@ struct 一覧列 {
 
 // One row of a list view: the first column's text, the key that finds the row, and the further
 // columns; an empty sub-item is an empty cell. A list whose keys follow from the row leaves Key
-// empty and gives its rule (部品::鍵規則); 順 is the place the row was read in, from 1.
+// empty and gives its rule (部品::鍵規則); 順 is the place the row was added in, from 1, which a
+// sort leaves as it was.
 struct 一覧項目 {
     QString Text;
     QString Key;
