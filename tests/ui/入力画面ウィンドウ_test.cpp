@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,6 +12,7 @@
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
+#include <QTreeWidget>
 #include <QWheelEvent>
 
 #include "common/試験用ツリー.h"
@@ -355,6 +357,43 @@ TEST_F(入力画面ウィンドウ試験, 窓で打った伝票を備考Bから�
     EXPECT_EQ(焦点(), u"担当者コード"_qs);
     一致を確かめる();
     写真(u"登録の後"_qs);
+}
+
+TEST_F(入力画面ウィンドウ試験, 付属書類の頁で足した書類の大きさは列の右に寄る) {
+    基盤.画面表示時 = [this](const QString& 名) {
+        if (名 == u"msg印刷確認") f.印刷確認.画面.操作_クリック(f.印刷確認.画面(u"btn_登録"_qs));
+    };
+    打つ(u"3"_qs);
+    Tab();
+    打つ(u"3"_qs);
+    Tab();
+    支払先までTab();
+    Tab();
+    Tab();
+    打つ(u"1200"_qs);
+    Tab();
+    QTest::mouseClick(w(u"btn_登録"_qs), Qt::LeftButton);
+    QTest::mouseClick(w(u"btn_前No"_qs), Qt::LeftButton);
+    ASSERT_EQ(欄(u"出金No"_qs)->text(), u"00000001"_qs);
+    auto* タブ = static_cast<QTabBar*>(w(u"tab_詳細"_qs));
+    QTest::mouseClick(タブ, Qt::LeftButton, {}, タブ->tabRect(1).center());
+    ASSERT_EQ(c(u"tab_詳細"_qs).Value, 1);
+    QFile 書類(木.根() + u"/領収書.pdf"_qs);
+    ASSERT_TRUE(書類.open(QIODevice::WriteOnly));
+    書類.write(QByteArray(3000, 'x'));
+    書類.close();
+    基盤.選択回答.enqueue(書類.fileName());
+    QTest::mouseClick(w(u"btn_付属書類追加"_qs), Qt::LeftButton);
+    auto* 一覧 = qobject_cast<QTreeWidget*>(w(u"List付属書類"_qs));
+    ASSERT_NE(一覧, nullptr);
+    ASSERT_EQ(一覧->topLevelItemCount(), 1);
+    EXPECT_EQ(一覧->topLevelItem(0)->text(0), u"領収書"_qs);
+    EXPECT_TRUE(一覧->topLevelItem(0)->text(1).endsWith(u"KB"_qs));
+    // The size and its heading stand at the right, the title at the left.
+    EXPECT_EQ(一覧->topLevelItem(0)->textAlignment(1) & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+    EXPECT_EQ(一覧->headerItem()->textAlignment(1) & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+    EXPECT_NE(一覧->topLevelItem(0)->textAlignment(0) & Qt::AlignHorizontal_Mask, Qt::AlignRight);
+    写真(u"付属書類"_qs);
 }
 
 }  // namespace
