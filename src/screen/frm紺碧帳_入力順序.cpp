@@ -193,7 +193,9 @@ void frm紺碧帳::頁1終了取得(int r) {
             画面.値設定(棒, 棒.Value + 1);
             画面.SetFocus(画面(u"費目区分"_qs, 4));
         }
-    } else if (元 == u"費目区分") {
+    } else {
+        // Backward, from the next row's class or from the remarks: this row's amount, so that
+        // the focus never rests on the end mark itself.
         画面.SetFocus(画面(u"出金金額"_qs, r));
     }
 }

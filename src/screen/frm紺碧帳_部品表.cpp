@@ -234,13 +234,14 @@ constexpr 部品定義 部品一覧[] = {
      .数字 = {2},
      .区分 = 2,
      .序数 = 1},
+    // The two lists name what the code fields hold. Keys type the code, so Tab passes the lists
+    // by and a line reads class, payee, description, amount on every row; the mouse picks.
     {.名前 = u"費目区分名称",
      .種別 = ComboBox,
      .位置 = {630, 明細上 + 60, 2500, 欄高},
      .親 = u"bak_dtla",
      .配列 = 5,
      .順 = 13,
-     .停止 = true,
      .区分 = 2,
      .序数 = 1},
     {.名前 = u"btn_摘要",
@@ -265,7 +266,6 @@ constexpr 部品定義 部品一覧[] = {
      .親 = u"bak_dtla",
      .配列 = 5,
      .順 = 15,
-     .停止 = true,
      .区分 = 2,
      .序数 = 2},
     {.名前 = u"支払先",

@@ -47,6 +47,8 @@ TEST_F(入力画面, 見出しの順番と止まる項目は表の通り) {
     EXPECT_FALSE(c(u"内税外税区分"_qs, 0).TabStop);
     EXPECT_FALSE(c(u"消費税率"_qs, 0).TabStop);
     EXPECT_FALSE(c(u"出金消費税"_qs, 0).TabStop);
+    EXPECT_FALSE(c(u"費目区分名称"_qs, 2).TabStop);
+    EXPECT_FALSE(c(u"内税外税区分名称"_qs, 2).TabStop);
     EXPECT_EQ(c(u"出金伝票備考A"_qs).TabIndex, 62);
     EXPECT_EQ(c(u"テイル終了"_qs).TabIndex, 64);
     EXPECT_EQ(c(u"btn_終了"_qs).TabIndex, 67);

@@ -136,8 +136,8 @@ TEST_F(明細確定, 費目区分は名称と区分と今日の税率を連れ�
     EXPECT_EQ(c(u"内税外税区分名称"_qs, 0).Text, u"外税"_qs);
     EXPECT_EQ(欄の字(u"内税外税区分"_qs, 0), u"1"_qs);
     EXPECT_EQ(欄の字(u"消費税率"_qs, 0), u"10"_qs);
-    EXPECT_EQ(焦点(), u"費目区分名称(0)"_qs);
-    EXPECT_EQ(s.最終行, 0);  // the row became a line when the focus entered its list
+    EXPECT_EQ(焦点(), u"支払先(0)"_qs);  // Tab passes the lists by
+    EXPECT_EQ(s.最終行, 0);              // the row became a line when the focus entered its payee
 }
 
 TEST_F(明細確定, 金額を抜けると税と派生額と合計が続き次の行へ進む) {
