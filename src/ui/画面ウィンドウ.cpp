@@ -245,7 +245,12 @@ void ScreenWindow::反映() {
         w->setEnabled(p.Enabled);
         if (auto* e = qobject_cast<QLineEdit*>(w)) {
             if (p.MaxLength > 0) e->setMaxLength(p.MaxLength);
-            if (e->text() != p.Text) e->setText(p.Text);
+            if (e->text() != p.Text) {
+                // Typed text is the model's already, so this text is the program's: it shows
+                // from its first character. Only the operator's keys move the view.
+                e->setText(p.Text);
+                e->setCursorPosition(0);
+            }
             色を合わせる(p, w, QPalette::Text);
         } else if (auto* l = qobject_cast<QLabel*>(w)) {
             l->setText(p.Caption);
@@ -275,10 +280,14 @@ void ScreenWindow::反映() {
         }
     }
     if (部品* f = m.フォーカス()) {
-        if (QWidget* w = 対応.value(f); w && w != QApplication::focusWidget()) {
-            w->setFocus(Qt::OtherFocusReason);
-        }
+        QWidget* w = 対応.value(f);
+        if (w && w != QApplication::focusWidget()) w->setFocus(Qt::OtherFocusReason);
+        // A field the focus comes to holds its whole text selected from the first character:
+        // keys typed replace it, and the view stays at its start.
+        auto* e = qobject_cast<QLineEdit*>(w);
+        if (e && f != 焦点の部品) e->setSelection(e->text().size(), -e->text().size());
     }
+    焦点の部品 = m.フォーカス();
     同期中 = false;
 }
 

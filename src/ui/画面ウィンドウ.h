@@ -46,4 +46,6 @@ class ScreenWindow : public QWidget {
     QHash<QWidget*, 部品*> 逆引き;
     QHash<const 部品*, int> 描いた版;
     bool 同期中 = false;
+    const 部品* 焦点の部品 =
+        nullptr;  // the model's focus when the widgets were last brought in step
 };
