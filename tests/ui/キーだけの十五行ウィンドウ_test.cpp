@@ -124,6 +124,29 @@ TEST_F(キーだけの十五行ウィンドウ, 十五行をキーだけで打�
     一致を確かめる();
 }
 
+TEST_F(キーだけの十五行ウィンドウ, ShiftTabで全行を遡ると焦点はいつも見えている欄にある) {
+    十五行を打つ();
+    if (HasFatalFailure()) return;
+    // Back from the remarks through every line; across the top row the grid scrolls up.
+    for (int k = 0; k < 80 && !(s.先頭行 == 0 && 焦点() == u"費目区分0"); ++k) {
+        ShiftTab();
+        auto* e = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        ASSERT_NE(e, nullptr) << 焦点().toStdString();
+        ASSERT_EQ(e, w(f.画面.フォーカス()->名前, f.画面.フォーカス()->添字));
+        ASSERT_TRUE(e->isVisible()) << 焦点().toStdString();
+        ASSERT_GE(e->width(), 20) << 焦点().toStdString();
+    }
+    EXPECT_EQ(s.先頭行, 0);
+    EXPECT_EQ(static_cast<QScrollBar*>(w(u"scl_行"_qs))->value(), 0);
+    // The keys go on from there along the first line.
+    Tab();
+    焦点は(u"支払先"_qs, 0);
+    欄(u"支払先"_qs, 0)->selectAll();
+    打ってTab(u"書き直し"_qs);
+    EXPECT_EQ(s.行[0].支払先, u"書き直し"_qs);
+    一致を確かめる();
+}
+
 TEST_F(キーだけの十五行ウィンドウ, 読み込んだ十五行はTabで全行たどれ長い摘要は頭から見える) {
     十五行を打つ();
     if (HasFatalFailure()) return;
