@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QDir>
-#include <QFont>
 #include <QTextStream>
 #include <QTimer>
 #include <cstdio>
@@ -13,11 +12,12 @@
 #include "slip/二重起動.h"
 #include "slip/起動処理.h"
 #include "ui/Qtプラットフォーム.h"
+#include "ui/Qt起動準備.h"
 #include "ui/入力画面ウィンドウ.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QApplication::setFont(QFont(u"Noto Sans CJK JP"_qs, 10));
+    Qt起動準備(app);
 
     Qtプラットフォーム 基盤;
     出金セッション セッション(基盤);

@@ -1,5 +1,4 @@
 #include <QApplication>
-#include <QFont>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
@@ -9,6 +8,7 @@
 #include "report/出金伝票描画.h"
 #include "report/紺碧帳書.h"
 #include "ui/Qtプラットフォーム.h"
+#include "ui/Qt起動準備.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ void 描く(QPrinter& 用紙, const 出金伝票帳票& 帳票) {
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QApplication::setFont(QFont(u"Noto Sans CJK JP"_qs, 10));
+    Qt起動準備(app);
     Qtプラットフォーム 基盤;
     基盤.既定の題名 = u"紺碧帳書"_qs;
     紺碧帳書 帳書(基盤, QCoreApplication::applicationDirPath());

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include "dataenv/ツリー診断.h"
 #include "dataenv/データ接続.h"
 #include "dataenv/人事連携.h"
 #include "dataenv/会社情報.h"
@@ -33,6 +34,8 @@ class データ環境 {
     double 稼動カウンタ = 0;
 
     bool SYB_OPEN();
+    // After a failed SYB_OPEN: whether the tree is missing or closed to this user, and where.
+    ツリー診断結果 ツリー診断() const;
     bool DB_OPEN();
     bool DB_CLOSEOPEN();
     // Closes both connections at the end of the run; errors are of no interest there.

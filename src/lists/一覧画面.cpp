@@ -176,6 +176,11 @@ void 一覧画面::列作成(const QList<一覧列>& 列) {
     部品& L = 一覧();
     L.列 = 列;
     L.項目クリア();
+    // A list view made by a load stands in the order of the statement until a heading is
+    // clicked; the sort of an earlier load went with the window.
+    L.Sorted = false;
+    L.SortKey = 0;
+    L.降順 = false;
 }
 
 QString 一覧画面::条件取出(const QString& 項目名) {

@@ -79,6 +79,7 @@ class 一覧画面 {
     void 欄を結ぶ(QList<条件欄> 欄, QList<区分欄> 区分欄群);
     void 区分一覧作成();
     void 一覧条件表示();
+    // The list view as a load makes it: these columns, no rows, no sort.
     void 列作成(const QList<一覧列>& 列);
     // Takes a preset field's value out of 一覧条件文字列; empty when the caller did not name it.
     QString 条件取出(const QString& 項目名);

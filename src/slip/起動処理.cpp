@@ -4,6 +4,36 @@
 #include "text/マウスホイール.h"
 #include "text/数値変換.h"
 
+namespace {
+
+// A folder as it is typed on a command line.
+QString 引数(const QString& フォルダ) {
+    return フォルダ.contains(u' ') ? u"'"_qs + フォルダ + u"'"_qs : フォルダ;
+}
+
+// What the operator is told after the databases did not open because the tree is missing or
+// closed to him: the folder, and the administrator's command that makes it or opens it. A
+// closed tree is not made again, as that would empty the company's databases.
+QString ツリー案内(const データ環境& d) {
+    const ツリー診断結果 診断 = d.ツリー診断();
+    const QString 所 = 引数(診断.フォルダ);
+    switch (診断.状態) {
+        case ツリー状態::無い:
+            return u"紺碧帳のフォルダツリーがありません: "_qs + 診断.フォルダ +
+                   u"\n管理者が次のコマンドで作成します。\nsudo konpeki-make-tree "_qs + 所 +
+                   u" --slips 0"_qs;
+        case ツリー状態::読めない:
+            return u"紺碧帳のフォルダツリーを読み書きできません: "_qs + 診断.フォルダ +
+                   u"\n管理者が利用者をツリーのグループ (konpeki) に加えます。\nsudo adduser "_qs +
+                   d.環境.端末利用者名 + u" konpeki"_qs;
+        case ツリー状態::使える:
+            break;
+    }
+    return {};
+}
+
+}  // namespace
+
 紺碧帳起動::紺碧帳起動(出金セッション& セッション, 入力画面& 画面_) : s(セッション), 画面(画面_) {}
 
 起動結果 紺碧帳起動::プログラム開始(const QString& コマンドライン) {
@@ -12,6 +42,7 @@
 
     if (!データベース開始()) {
         基盤.メッセージ(u"データベースが使用できません。"_qs);
+        if (const QString 案内 = ツリー案内(s.データ); !案内.isEmpty()) 基盤.メッセージ(案内);
         終了処理();
         return 起動結果::停止;
     }

@@ -147,6 +147,36 @@ TEST_P(出張申請一覧, Escでは番号欄をそのままにし条件を空�
     EXPECT_EQ(基盤.閉じた画面, QStringList{u"wnd出張申請No一覧"_qs});
 }
 
+TEST_P(出張申請一覧, 見出しで並べ替えて戻っても次に開くと文の順で並べ替えは無い) {
+    QStringList 一回目, 二回目;
+    bool 二回目の並べ替え = true;
+    int 二回目の列 = -1;
+    int 回 = 0;
+    操作[u"wnd出張申請No一覧"_qs] = [&](一覧画面& x) {
+        部品& L = x.一覧();
+        if (回++ == 0) {
+            // The application date, oldest first, against the statement's newest first.
+            x.画面.操作_列クリック(L, 1);
+            一回目 = 列(x, 1);
+            x.画面.操作_キー(L, 27);
+            return;
+        }
+        二回目 = 列(x, 1);
+        二回目の並べ替え = L.Sorted;
+        二回目の列 = L.SortKey;
+        x.画面.操作_キー(L, 27);
+    };
+    開く();
+    開く();
+    ASSERT_EQ(一回目.size(), 2);
+    EXPECT_LT(一回目.first(), 一回目.last());
+    QStringList 逆 = 一回目;
+    std::reverse(逆.begin(), 逆.end());
+    EXPECT_EQ(二回目, 逆);
+    EXPECT_FALSE(二回目の並べ替え);
+    EXPECT_EQ(二回目の列, 0);
+}
+
 TEST_P(出張申請一覧, 出張区分か社員のマスタが無い申請は出ない) {
     ASSERT_TRUE(申請追加(u"000"_qs, u"00000003"_qs, u"20261115"_qs, u"00001"_qs, u"9"_qs));
     ASSERT_TRUE(申請追加(u"000"_qs, u"00000004"_qs, u"20261116"_qs, u"99999"_qs));

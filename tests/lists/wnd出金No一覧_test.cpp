@@ -72,6 +72,45 @@ TEST_P(出金No一覧, 入力画面から開くと一年前からの新しい順
     EXPECT_TRUE(基盤.隠した画面.isEmpty());
 }
 
+TEST_P(出金No一覧, 見出しで並べ替えて選んでも次に開くと文の順で並べ替えは無い) {
+    // One staff member: the slip picked brings him, and the next opening lists his slips.
+    const QString 前 = 保存(u"20251001"_qs, u"00003"_qs, 3000);
+    const QString 後 = 保存(u"20251101"_qs, u"00003"_qs, 1000);
+    QStringList 並べ替え後, 二回目, 見出し後;
+    bool 二回目の並べ替え = true;
+    int 二回目の列 = -1;
+    bool 二回目の降順 = true;
+    int 回 = 0;
+    操作[u"wnd出金No一覧"_qs] = [&](一覧画面& x) {
+        部品& L = x.一覧();
+        if (回++ == 0) {
+            x.画面.操作_列クリック(L, 1);  // 出金日付, oldest first
+            並べ替え後 = 列(x);
+            x.画面.操作_キー(L, 40);
+            x.画面.操作_キー(L, 13);
+            return;
+        }
+        二回目 = 列(x);
+        二回目の並べ替え = L.Sorted;
+        二回目の列 = L.SortKey;
+        二回目の降順 = L.降順;
+        // As on a first opening: the first column is the key, so its heading turns the order.
+        x.画面.操作_列クリック(L, 0);
+        見出し後 = 列(x);
+        x.画面.操作_キー(L, 27);
+    };
+    開く();
+    EXPECT_EQ(並べ替え後, (QStringList{前, 後}));
+    EXPECT_EQ(s.見出し.出金No, 前);
+    開く();
+    EXPECT_EQ(基盤.閉じた画面, (QStringList{u"wnd出金No一覧"_qs, u"wnd出金No一覧"_qs}));
+    EXPECT_EQ(二回目, (QStringList{後, 前}));
+    EXPECT_FALSE(二回目の並べ替え);
+    EXPECT_EQ(二回目の列, 0);
+    EXPECT_FALSE(二回目の降順);
+    EXPECT_EQ(見出し後, (QStringList{後, 前}));
+}
+
 TEST_P(出金No一覧, 担当者を入れて開くとその人の伝票だけが出る) {
     保存(u"20251101"_qs, u"00003"_qs, 1000);
     const QString 大野 = 保存(u"20251102"_qs, u"00005"_qs, 1000);

@@ -130,6 +130,38 @@ TEST_P(出金摘要一覧, 列の並べ替えの後も行の鍵は読んだ順�
     EXPECT_EQ(s.一覧条件文字列, 鍵);
 }
 
+TEST_P(出金摘要一覧, 見出しで逆順にして戻っても次に開くと文の順で並べ替えは無い) {
+    保存(u"20251101"_qs, {u"あいう"_qs, u"いろは"_qs});
+    QStringList 一回目, 二回目, 見出し後;
+    bool 二回目の並べ替え = true;
+    bool 二回目の降順 = true;
+    int 回 = 0;
+    操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
+        部品& L = x.一覧();
+        if (回++ == 0) {
+            x.画面.操作_列クリック(L, 0);
+            一回目 = 列(x);
+            x.画面.操作_キー(L, 27);
+            return;
+        }
+        二回目 = 列(x);
+        二回目の並べ替え = L.Sorted;
+        二回目の降順 = L.降順;
+        // The direction starts ascending again: the first click turns it to descending.
+        x.画面.操作_列クリック(L, 0);
+        見出し後 = 列(x);
+        x.画面.操作_キー(L, 27);
+    };
+    開く();
+    // The header stands: the second opening is the button alone.
+    f->画面.操作_クリック(c(u"btn_摘要"_qs, 0));
+    EXPECT_EQ(一回目, (QStringList{u"いろは"_qs, u"あいう"_qs}));
+    EXPECT_EQ(二回目, (QStringList{u"あいう"_qs, u"いろは"_qs}));
+    EXPECT_FALSE(二回目の並べ替え);
+    EXPECT_FALSE(二回目の降順);
+    EXPECT_EQ(見出し後, (QStringList{u"いろは"_qs, u"あいう"_qs}));
+}
+
 TEST_P(出金摘要一覧, 選ぶと鍵が返り窓は閉じ費目区分に文字が入ってから摘要へ進む) {
     保存(u"20251101"_qs, {u"ボールペン"_qs});
     QString 鍵;

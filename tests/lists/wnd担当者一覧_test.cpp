@@ -139,6 +139,34 @@ TEST_P(担当者一覧, 二度目に開くと前の行と条件が残り新し�
     EXPECT_EQ(基盤.読込済み, QStringList{u"wnd担当者一覧"_qs});
 }
 
+TEST_P(担当者一覧, 見出しで並べ替えて戻ると次に開いても同じ並びで並べ替えが残る) {
+    QStringList 一回目, 二回目;
+    bool 二回目の並べ替え = false;
+    int 二回目の列 = -1;
+    int 回 = 0;
+    操作[u"wnd担当者一覧"_qs] = [&](一覧画面& x) {
+        部品& L = x.一覧();
+        if (回++ == 0) {
+            x.画面.操作_列クリック(L, 1);  // 氏名
+            一回目 = 列(x);
+            x.画面.操作_キー(L, 27);
+            return;
+        }
+        二回目 = 列(x);
+        二回目の並べ替え = L.Sorted;
+        二回目の列 = L.SortKey;
+        x.画面.操作_キー(L, 27);
+    };
+    開く();
+    開く();
+    // The name order is not the code order of the statement.
+    EXPECT_NE(一回目.first(), u"00001"_qs);
+    EXPECT_EQ(二回目, 一回目);
+    EXPECT_TRUE(二回目の並べ替え);
+    EXPECT_EQ(二回目の列, 1);
+    EXPECT_EQ(基盤.読込済み, QStringList{u"wnd担当者一覧"_qs});
+}
+
 TEST_P(担当者一覧, 渡されたコードの条件は欄に移り条件文字列から消え最初の検索に効く) {
     ASSERT_TRUE(担当者追加(u"00123"_qs, u"百二十三"_qs));
     ASSERT_TRUE(担当者追加(u"00200"_qs, u"二百"_qs));

@@ -94,6 +94,30 @@ TEST_P(部門一覧, 担当者一覧からCtrlで二度開くと前と同じ行�
     EXPECT_EQ(基盤.隠した画面.count(u"wnd部門一覧"_qs), 2);
 }
 
+TEST_P(部門一覧, 見出しで逆順にして戻ると次に開いても逆順のまま) {
+    QStringList 一回目, 二回目;
+    bool 二回目の降順 = false;
+    int 回 = 0;
+    操作[u"wnd部門一覧"_qs] = [&](一覧画面& x) {
+        部品& L = x.一覧();
+        if (回++ == 0) {
+            x.画面.操作_列クリック(L, 0);
+            一回目 = 列(x);
+            x.画面.操作_キー(L, 27);
+            return;
+        }
+        二回目 = 列(x);
+        二回目の降順 = L.Sorted && L.降順;
+        x.画面.操作_キー(L, 27);
+    };
+    基盤.画面表示(u"wnd部門一覧"_qs, true);
+    基盤.画面表示(u"wnd部門一覧"_qs, true);
+    ASSERT_GE(一回目.size(), 2);
+    EXPECT_GT(一回目.first(), 一回目.last());
+    EXPECT_EQ(二回目, 一回目);
+    EXPECT_TRUE(二回目の降順);
+}
+
 KONPEKI_両エンジンで(部門一覧);
 
 }  // namespace

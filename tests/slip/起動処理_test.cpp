@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <unistd.h>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -136,8 +137,71 @@ TEST_F(起動, データベースが開かなければ知らせて終了処理�
 TEST_F(起動, 木がなければ知らせて止まり何も書かない) {
     s.データ.自身のフォルダ = 木.根() + u"/elsewhere"_qs;
     ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
-    EXPECT_EQ(基盤.表示文言(), QStringList{u"データベースが使用できません。"_qs});
+    // Outside a prgbin the program has no tree: it names its own folder.
+    const QString 所 = 木.根() + u"/elsewhere"_qs;
+    EXPECT_EQ(基盤.表示文言(),
+              (QStringList{u"データベースが使用できません。"_qs,
+                           u"紺碧帳のフォルダツリーがありません: "_qs + 所 +
+                               u"\n管理者が次のコマンドで作成します。\nsudo konpeki-make-tree "_qs +
+                               所 + u" --slips 0"_qs}));
     EXPECT_TRUE(履歴().isEmpty());
+}
+
+// The installed programs' layout: prgbin in the programs' folder, conf a link into the tree
+// that the package makes elsewhere.
+TEST_F(起動, 導入先の木が無ければフォルダと作るコマンドを二つ目の知らせで示す) {
+    QTemporaryDir 外;
+    const QString 導入 = 外.path() + u"/usr/lib/konpeki"_qs;
+    ASSERT_TRUE(QDir().mkpath(導入 + u"/prgbin"_qs));
+    ASSERT_TRUE(QFile::link(u"../../../var/lib/konpeki/conf"_qs, 導入 + u"/conf"_qs));
+    s.データ.自身のフォルダ = 導入 + u"/prgbin"_qs;
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
+    const QString 木の所 = 外.path() + u"/var/lib/konpeki"_qs;
+    EXPECT_EQ(基盤.表示文言(),
+              (QStringList{u"データベースが使用できません。"_qs,
+                           u"紺碧帳のフォルダツリーがありません: "_qs + 木の所 +
+                               u"\n管理者が次のコマンドで作成します。\nsudo konpeki-make-tree "_qs +
+                               木の所 + u" --slips 0"_qs}));
+    EXPECT_EQ(画面.表示回数, 0);
+}
+
+TEST_F(起動, 設定データベースの無い木も無い木として示す) {
+    ASSERT_TRUE(QFile::remove(木.環境DB()));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
+    const QStringList 文言 = 基盤.表示文言();
+    ASSERT_EQ(文言.size(), 2);
+    EXPECT_EQ(文言[0], u"データベースが使用できません。"_qs);
+    EXPECT_TRUE(文言[1].startsWith(u"紺碧帳のフォルダツリーがありません: "_qs + 木.根() + u"\n"_qs))
+        << 文言[1].toStdString();
+}
+
+// Root reads every file; a configuration database that is no file stands for one that the
+// operator may not open.
+TEST_F(起動, 開けない木はフォルダと利用者をグループに加えるコマンドを示し作り直させない) {
+    ASSERT_TRUE(QFile::remove(木.環境DB()));
+    ASSERT_TRUE(QDir().mkdir(木.環境DB()));
+    ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
+    const QStringList 文言 = 基盤.表示文言();
+    ASSERT_EQ(文言.size(), 2);
+    EXPECT_EQ(文言[0], u"データベースが使用できません。"_qs);
+    EXPECT_EQ(文言[1], u"紺碧帳のフォルダツリーを読み書きできません: "_qs + 木.根() +
+                           u"\n管理者が利用者をツリーのグループ (konpeki) に加えます。\n"
+                           u"sudo adduser "_qs +
+                           s.データ.環境.端末利用者名 + u" konpeki"_qs);
+}
+
+TEST_F(起動, 書けない設定フォルダは開けない木として示す) {
+    if (::geteuid() == 0) GTEST_SKIP() << "root writes every folder";
+    const QString 設定 = 木.根() + u"/conf"_qs;
+    ASSERT_TRUE(QFile::setPermissions(設定, QFile::ReadOwner | QFile::ExeOwner));
+    const 起動結果 結果 = 起動処理.プログラム開始(QString());
+    QFile::setPermissions(設定, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(結果, 起動結果::停止);
+    const QStringList 文言 = 基盤.表示文言();
+    ASSERT_FALSE(文言.isEmpty());
+    EXPECT_TRUE(
+        文言.last().startsWith(u"紺碧帳のフォルダツリーを読み書きできません: "_qs + 木.根()))
+        << 文言.last().toStdString();
 }
 
 TEST_F(起動, 会社の行がなければユーザ情報の知らせで止まる) {
