@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <functional>
 
 #include "text/金額.h"
 
@@ -44,7 +45,10 @@ struct 仕訳伝票 {
     QString 名前() const { return 事業所コード + u'-' + 番号基準日付 + u'-' + 出金No; }
 };
 
-// The slips of the period with their lines, in date and number order. False with the refusal
-// in Japanese: a failed read, an expense class without an account (all of them named), a line
-// whose tax category the table lacks.
-bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, QList<仕訳伝票>& 伝票, QString& エラー);
+// Hands the slips of the period with their lines, in date and number order, one at a time to
+// 受取, which may stop the read by answering False with its refusal. False with the refusal in
+// Japanese: a failed read, an expense class without an account (all of them named, the read
+// going on to find them while nothing more is handed over), a line whose tax category the table
+// lacks.
+using 伝票受取 = std::function<bool(const 仕訳伝票& 伝票, QString& エラー)>;
+bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, const 伝票受取& 受取, QString& エラー);

@@ -61,14 +61,35 @@ QString 有効な登録番号(const QHash<QString, QList<登録期間>>& 登録,
     return {};
 }
 
+// The columns of the read, in the order of the SELECT; rows are read by place.
+enum 列 {
+    列_事業所,
+    列_基準日,
+    列_番号,
+    列_日付,
+    列_担当者,
+    列_部門,
+    列_部門名,
+    列_伝票合計,
+    列_行番号,
+    列_費目,
+    列_費目名,
+    列_内外,
+    列_税率,
+    列_金額,
+    列_税額,
+    列_実質金額,
+    列_支払先,
+    列_課税事業所,
+    列_摘要,
+};
+
 QString 伝票文(const 出力指定& 指定) {
     QString 文 =
-        u"SELECT h.事業所コード AS 事業所, h.番号基準日付 AS 基準日, h.出金No AS 番号, "
-        u"h.出金日付 AS 日付, h.担当者コード AS 担当者, h.部門コード AS 部門, b.名称 AS 部門名, "
-        u"h.実質出金金額合計 AS 伝票合計, d.出金行No AS 行番号, d.費目区分 AS 費目, "
-        u"k.名称 AS 費目名, d.内税外税区分 AS 内外, d.消費税率 AS 税率, d.出金金額 AS 金額, "
-        u"d.出金消費税 AS 税額, d.実質出金金額 AS 実質金額, d.支払先 AS 支払先, "
-        u"d.課税事業所区分 AS 課税事業所, d.摘要 AS 摘要 "
+        u"SELECT h.事業所コード, h.番号基準日付, h.出金No, h.出金日付, h.担当者コード, "
+        u"h.部門コード, b.名称, h.実質出金金額合計, d.出金行No, d.費目区分, k.名称, "
+        u"d.内税外税区分, d.消費税率, d.出金金額, d.出金消費税, d.実質出金金額, d.支払先, "
+        u"d.課税事業所区分, d.摘要 "
         u"FROM T出金 h INNER JOIN T出金明細 d ON d.事業所コード = h.事業所コード "
         u"AND d.番号基準日付 = h.番号基準日付 AND d.出金No = h.出金No "
         u"LEFT JOIN M部門 b ON b.コード = h.部門コード "
@@ -82,8 +103,7 @@ QString 伝票文(const 出力指定& 指定) {
 
 }  // namespace
 
-bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, QList<仕訳伝票>& 伝票, QString& エラー) {
-    伝票.clear();
+bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, const 伝票受取& 受取, QString& エラー) {
     QHash<QString, 勘定対応> 対応;
     QHash<QString, QList<登録期間>> 登録;
     if (!勘定対応読込(環境, 対応) || !登録読込(環境, 登録)) {
@@ -97,54 +117,60 @@ bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, QLi
         return false;
     }
     QMap<QString, QString> 対応なし;  // expense classes without an account, by code
+    仕訳伝票 t;  // the slip being read; one object for all, so that its lines keep their memory
+    bool 読取中 = false;
+    // The slip read so far goes to the receiver, unless something already went wrong.
+    const auto 渡す = [&] {
+        if (!読取中 || !対応なし.isEmpty() || !エラー.isEmpty()) return true;
+        return 受取(t, エラー);
+    };
     for (; !rs.EOFか(); rs.MoveNext()) {
-        const QString 事業所 = rs.文字列(u"事業所"_qs);
-        const QString 基準日 = rs.文字列(u"基準日"_qs);
-        const QString 番号 = rs.文字列(u"番号"_qs);
-        if (伝票.isEmpty() || 伝票.last().事業所コード != 事業所 ||
-            伝票.last().番号基準日付 != 基準日 || 伝票.last().出金No != 番号) {
-            仕訳伝票 t;
+        const QString 事業所 = rs.文字列(列_事業所);
+        const QString 基準日 = rs.文字列(列_基準日);
+        const QString 番号 = rs.文字列(列_番号);
+        if (!読取中 || t.事業所コード != 事業所 || t.番号基準日付 != 基準日 || t.出金No != 番号) {
+            if (!渡す()) break;
+            読取中 = true;
             t.事業所コード = 事業所;
             t.番号基準日付 = 基準日;
             t.出金No = 番号;
-            t.出金日付 = rs.文字列(u"日付"_qs);
-            t.担当者コード = rs.文字列(u"担当者"_qs);
-            t.部門コード = rs.文字列(u"部門"_qs);
-            t.部門名 = rs.文字列(u"部門名"_qs);
-            t.実質出金金額合計 = rs.金額値(u"伝票合計"_qs);
-            伝票.append(t);
+            t.出金日付 = rs.文字列(列_日付);
+            t.担当者コード = rs.文字列(列_担当者);
+            t.部門コード = rs.文字列(列_部門);
+            t.部門名 = rs.文字列(列_部門名);
+            t.実質出金金額合計 = rs.金額値(列_伝票合計);
+            t.行.clear();
         }
-        仕訳伝票& t = 伝票.last();
-        仕訳行 l;
-        l.出金行No = rs.文字列(u"行番号"_qs);
-        l.費目区分 = rs.文字列(u"費目"_qs);
-        l.費目区分名称 = rs.文字列(u"費目名"_qs);
-        l.内税外税区分 = rs.整数(u"内外"_qs);
-        l.消費税率 = rs.金額値(u"税率"_qs);
-        l.出金金額 = rs.金額値(u"金額"_qs);
-        l.出金消費税 = rs.金額値(u"税額"_qs);
-        l.実質出金金額 = rs.金額値(u"実質金額"_qs);
-        l.支払先 = rs.文字列(u"支払先"_qs);
-        l.課税事業所区分 = rs.文字列(u"課税事業所"_qs);
-        l.摘要 = rs.文字列(u"摘要"_qs);
+        仕訳行& l = t.行.emplace_back();
+        l.出金行No = rs.文字列(列_行番号);
+        l.費目区分 = rs.文字列(列_費目);
+        l.費目区分名称 = rs.文字列(列_費目名);
+        l.内税外税区分 = 整数変換(rs.文字列(列_内外));
+        l.消費税率 = rs.金額値(列_税率);
+        l.出金金額 = rs.金額値(列_金額);
+        l.出金消費税 = rs.金額値(列_税額);
+        l.実質出金金額 = rs.金額値(列_実質金額);
+        l.支払先 = rs.文字列(列_支払先);
+        l.課税事業所区分 = rs.文字列(列_課税事業所);
+        l.摘要 = rs.文字列(列_摘要);
         const auto a = 対応.constFind(l.費目区分);
         if (a == 対応.cend() || a->勘定科目.isEmpty()) {
             対応なし.insert(l.費目区分, l.費目区分名称);
-        } else {
-            l.勘定科目 = a->勘定科目;
-            l.補助科目 = a->補助科目;
-            l.登録番号 = 有効な登録番号(登録, l.支払先, t.出金日付);
-            l.控除割合 = l.登録番号.isEmpty() ? 経過措置控除割合(t.出金日付) : 100;
-            l.税区分 =
-                弥生仕入税区分(l.内税外税区分, l.消費税率, t.出金日付, l.控除割合, a->非課税区分);
-            if (l.税区分.isEmpty() && エラー.isEmpty()) {
-                エラー = u"伝票 "_qs + t.名前() + u" の "_qs + l.出金行No +
-                         u" 行目の税区分が決まりません（税率 "_qs + l.消費税率.文字列() +
-                         u"%、非課税区分「"_qs + a->非課税区分 + u"」）。"_qs;
-            }
+            continue;
         }
-        t.行.append(l);
+        l.勘定科目 = a->勘定科目;
+        l.補助科目 = a->補助科目;
+        l.登録番号 = 有効な登録番号(登録, l.支払先, t.出金日付);
+        l.控除割合 = l.登録番号.isEmpty() ? 経過措置控除割合(t.出金日付) : 100;
+        l.税区分 =
+            弥生仕入税区分(l.内税外税区分, l.消費税率, t.出金日付, l.控除割合, a->非課税区分);
+        if (l.税区分.isEmpty() && エラー.isEmpty()) {
+            エラー = u"伝票 "_qs + t.名前() + u" の "_qs + l.出金行No +
+                     u" 行目の税区分が決まりません（税率 "_qs + l.消費税率.文字列() +
+                     u"%、非課税区分「"_qs + a->非課税区分 + u"」）。"_qs;
+        }
     }
+    const bool 最後 = 渡す();
     rs.閉じる();
     if (!対応なし.isEmpty()) {
         エラー = u"勘定科目の対応がない費目区分があります。何も出力しませんでした。"_qs;
@@ -152,5 +178,5 @@ bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, QLi
             エラー += u"\n"_qs + it.key() + u" "_qs + it.value();
         return false;
     }
-    return エラー.isEmpty();
+    return 最後 && エラー.isEmpty();
 }

@@ -3,6 +3,7 @@
 #include <QSaveFile>
 
 #include "slip/起動処理.h"
+#include "text/シフトJIS変換.h"
 #include "text/プラットフォーム.h"
 #include "text/数値書式.h"
 
@@ -35,21 +36,27 @@ int 紺碧帳出力::実行(const 出力指定& 指定) {
     if (!起動.データベース開始() || !起動.ユーザ情報初期化())
         return 拒否(u"データベースが使用できません。"_qs, true);
 
-    QList<仕訳伝票> 伝票;
+    // Read and formatted slip by slip into memory; the file is written only when all is whole.
+    const bool 弥生 = 指定.形式 == u"yayoi";
+    QByteArray 内容 = 弥生 ? QByteArray() : CSV見出し();
+    CP932変換器 変換器;
+    集計 = {};
     QString エラー;
-    if (!仕訳伝票読込(s.データ, 指定, 伝票, エラー)) return 拒否(エラー, true);
-    集計 = 仕訳集計(伝票);
+    const bool 読めた = 仕訳伝票読込(
+        s.データ, 指定,
+        [&](const 仕訳伝票& t, QString& e) {
+            集計.追加(t);
+            if (弥生) return 弥生形式追加(変換器, t, 内容, e);
+            CSV形式追加(t, 内容);
+            return true;
+        },
+        エラー);
+    if (!読めた) return 拒否(エラー, true);
     if (集計.借方金額合計 != 集計.実質出金金額合計) {
         return 拒否(u"明細の金額の合計 "_qs + 集計.借方金額合計.文字列() +
                         u" が伝票の実質出金金額合計 "_qs + 集計.実質出金金額合計.文字列() +
                         u" と一致しません。何も出力しませんでした。"_qs,
                     true);
-    }
-    QByteArray 内容;
-    if (指定.形式 == u"yayoi") {
-        if (!弥生形式作成(伝票, 内容, エラー)) return 拒否(エラー, true);
-    } else {
-        内容 = CSV形式作成(伝票);
     }
     if (!書き出す(指定.出力先, 内容))
         return 拒否(u"ファイルを書き込めませんでした。\n"_qs + 指定.出力先, true);

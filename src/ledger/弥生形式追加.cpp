@@ -46,31 +46,30 @@ std::array<QString, 弥生列数> 行の項目(const 仕訳伝票& t, const 仕�
 
 }  // namespace
 
-bool 弥生形式作成(const QList<仕訳伝票>& 伝票, QByteArray& 出力, QString& エラー) {
-    出力.clear();
-    QByteArray 行バイト;
-    for (const 仕訳伝票& t : 伝票) {
-        for (int i = 0; i < t.行.size(); ++i) {
-            const std::array<QString, 弥生列数> f = 行の項目(t, t.行[i], i);
-            QString 行;
-            for (int c = 0; c < 弥生列数; ++c) {
-                const 弥生列& 列 = 弥生列一覧[c];
-                // The import cuts longer texts itself; cutting here keeps whole characters.
-                const QString 値 = 列.桁数 > 0 && 列.文字項目 ? バイト長切詰(f[c], 列.桁数) : f[c];
-                if (c > 0) 行 += u',';
-                行 += 列.文字項目 ? CSV項目(値, true) : 値;
-            }
-            qsizetype 位置;
-            if (!CP932変換(行 + u"\r\n"_qs, 行バイト, 位置)) {
-                エラー = u"伝票 "_qs + t.名前() + u" の "_qs + t.行[i].出金行No +
-                         u" 行目に Shift-JIS にない文字「"_qs + 行.mid(位置, 1) +
-                         u"」があります。何も出力しませんでした。"_qs;
-                if (位置 + 1 < 行.size() && 行[位置].isHighSurrogate())
-                    エラー.replace(u"「"_qs + 行.mid(位置, 1), u"「"_qs + 行.mid(位置, 2));
-                出力.clear();
-                return false;
-            }
-            出力 += 行バイト;
+bool 弥生形式追加(CP932変換器& 変換器, const 仕訳伝票& t, QByteArray& 出力, QString& エラー) {
+    const qsizetype 元の長さ = 出力.size();
+    QString 行;
+    for (int i = 0; i < t.行.size(); ++i) {
+        const std::array<QString, 弥生列数> f = 行の項目(t, t.行[i], i);
+        行.clear();
+        for (int c = 0; c < 弥生列数; ++c) {
+            const 弥生列& 列 = 弥生列一覧[c];
+            // The import cuts longer texts itself; cutting here keeps whole characters. A text
+            // of at most half the places fits whatever its characters.
+            const bool 切詰 = 列.桁数 > 0 && 列.文字項目 && f[c].size() * 2 > 列.桁数;
+            const QString 値 = 切詰 ? バイト長切詰(f[c], 列.桁数) : f[c];
+            if (c > 0) 行 += u',';
+            行 += 列.文字項目 ? CSV項目(値, true) : 値;
+        }
+        行 += u"\r\n"_qs;
+        qsizetype 位置;
+        if (!変換器.追加(行, 出力, 位置)) {
+            const qsizetype 単位数 = 行[位置].isHighSurrogate() ? 2 : 1;
+            エラー = u"伝票 "_qs + t.名前() + u" の "_qs + t.行[i].出金行No +
+                     u" 行目に Shift-JIS にない文字「"_qs + 行.mid(位置, 単位数) +
+                     u"」があります。何も出力しませんでした。"_qs;
+            出力.resize(元の長さ);
+            return false;
         }
     }
     return true;
