@@ -30,7 +30,9 @@ class 仕訳出力試験 : public エンジン別試験 {
     };
 
     // A slip of staff 00003 on the date, typed and stored; answers its number.
-    QString 保存する(const QString& 日付, const QList<明細>& 行) {
+    QString 保存する(const QString& 日付, const QList<明細>& 行,
+                     const QString& 事業所 = u"000"_qs) {
+        s.見出し.事業所コード = 事業所;
         s.出金情報初期化();
         出金日付入力(s, 日付);
         EXPECT_TRUE(担当者入力(s, u"00003"_qs));
@@ -46,10 +48,11 @@ class 仕訳出力試験 : public エンジン別試験 {
     }
 
     int 出力する(const QString& 形式, const QString& 開始 = u"20240101"_qs,
-                 const QString& 終了 = u"20261231"_qs) {
+                 const QString& 終了 = u"20261231"_qs, const QStringList& 追加 = {}) {
         紺碧帳出力 p(基盤, 木->プログラムフォルダ());
         const int r = p.実行(QStringList{u"--from"_qs, 開始, u"--to"_qs, 終了, u"--format"_qs, 形式,
-                                         u"--out"_qs, 出力先()});
+                                         u"--out"_qs, 出力先()} +
+                             追加);
         結果文言 = p.結果文言;
         集計 = p.集計;
         return r;

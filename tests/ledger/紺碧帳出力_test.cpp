@@ -200,6 +200,47 @@ TEST_P(弥生出力, CSVは見出し行とRFC4180の引用で伝票の見出し�
     EXPECT_EQ(値(u"実質出金金額"), u"1100"_qs);
 }
 
+TEST_P(弥生出力, 事業所を指定するとその事業所の伝票だけで000は全社) {
+    保存する(u"20251120"_qs, {{3, 1000, u"文具の青葉堂"_qs, u"本社"_qs}});
+    保存する(u"20251121"_qs, {{3, 2000, u"文具の青葉堂"_qs, u"大阪"_qs}}, u"001"_qs);
+    ASSERT_EQ(
+        出力する(u"yayoi"_qs, u"20251101"_qs, u"20251130"_qs, QStringList{u"--office"_qs, u"1"_qs}),
+        0);
+    QList<弥生読取行> 行 = 読む();
+    ASSERT_EQ(行.size(), 1);
+    EXPECT_EQ(行[0].項目[16], u"文具の青葉堂 大阪"_qs);
+    EXPECT_EQ(行[0].項目[21].left(8), u"紺碧帳 001-"_qs);
+    ASSERT_EQ(出力する(u"yayoi"_qs, u"20251101"_qs, u"20251130"_qs,
+                       QStringList{u"--office"_qs, u"000"_qs}),
+              0);
+    EXPECT_EQ(読む().size(), 2);
+}
+
+TEST_P(弥生出力, 書けない出力先は告げて終わり稼動履歴に終了を残す) {
+    保存する(u"20251120"_qs, {{3, 1000, u"文具の青葉堂"_qs, u"コピー用紙"_qs}});
+    紺碧帳出力 p(基盤, 木->プログラムフォルダ());
+    const QString 先 = 木->根() + u"/ない/仕訳.txt"_qs;
+    EXPECT_EQ(p.実行(QStringList{u"--from"_qs, u"20251101"_qs, u"--to"_qs, u"20251130"_qs,
+                                 u"--format"_qs, u"yayoi"_qs, u"--out"_qs, 先}),
+              1);
+    EXPECT_EQ(最後のメッセージ(), u"ファイルを書き込めませんでした。\n"_qs + 先);
+    const auto 行 = 木->環境DB行(
+        u"SELECT 摘要 FROM プログラム稼動履歴 WHERE プログラムID = '紺碧帳出力' ORDER BY proccounter"_qs);
+    ASSERT_EQ(行.size(), 2);
+    EXPECT_EQ(行[1][0].toString(), u"終了"_qs);
+}
+
+TEST_P(弥生出力, 誤った引数は何も開かず稼動履歴も残さない) {
+    紺碧帳出力 p(基盤, 木->プログラムフォルダ());
+    EXPECT_EQ(p.実行(QStringList{u"--from"_qs, u"2025"_qs}), 1);
+    EXPECT_TRUE(最後のメッセージ().startsWith(u"--from の値"_qs) ||
+                最後のメッセージ().startsWith(u"期間は"_qs))
+        << 最後のメッセージ().toStdString();
+    EXPECT_TRUE(
+        木->環境DB行(u"SELECT 摘要 FROM プログラム稼動履歴 WHERE プログラムID = '紺碧帳出力'"_qs)
+            .isEmpty());
+}
+
 KONPEKI_両エンジンで(弥生出力);
 
 }  // namespace
