@@ -1,0 +1,182 @@
+#include <QHash>
+#include <QMap>
+
+#include "dataenv/データ環境.h"
+#include "ledger/仕訳伝票.h"
+#include "ledger/出力指定.h"
+#include "rules/仕入税額控除.h"
+#include "rules/弥生形式.h"
+#include "rules/登録番号.h"
+
+namespace {
+
+struct 勘定対応 {
+    QString 勘定科目;
+    QString 補助科目;
+    QString 非課税区分;
+};
+
+struct 登録期間 {
+    QString 開始日;
+    QString 終了日;
+    QString 登録番号;
+};
+
+bool 勘定対応読込(データ環境& 環境, QHash<QString, 勘定対応>& 対応) {
+    記録集合 rs;
+    const bool 成功 = 環境.業務DB検索(
+        rs, u"SELECT 費目区分, 勘定科目, 補助科目, 非課税区分 FROM K紺碧勘定対応"_qs);
+    for (; 成功 && !rs.EOFか(); rs.MoveNext()) {
+        対応.insert(rs.文字列(u"費目区分"_qs),
+                    {rs.文字列(u"勘定科目"_qs).trimmed(), rs.文字列(u"補助科目"_qs).trimmed(),
+                     rs.文字列(u"非課税区分"_qs).trimmed()});
+    }
+    rs.閉じる();
+    return 成功;
+}
+
+bool 登録読込(データ環境& 環境, QHash<QString, QList<登録期間>>& 登録) {
+    記録集合 rs;
+    const bool 成功 = 環境.業務DB検索(
+        rs, u"SELECT 支払先, 有効開始日, 有効終了日, 登録番号 FROM M紺碧支払先登録"_qs);
+    for (; 成功 && !rs.EOFか(); rs.MoveNext()) {
+        登録[rs.文字列(u"支払先"_qs).trimmed()].append({rs.文字列(u"有効開始日"_qs),
+                                                        rs.文字列(u"有効終了日"_qs).trimmed(),
+                                                        rs.文字列(u"登録番号"_qs).trimmed()});
+    }
+    rs.閉じる();
+    return 成功;
+}
+
+// The payee's registration in force on the date; a number that fails its check counts as none.
+QString 有効な登録番号(const QHash<QString, QList<登録期間>>& 登録, const QString& 支払先,
+                       const QString& 日付) {
+    const auto it = 登録.constFind(支払先.trimmed());
+    if (it == 登録.cend()) return {};
+    for (const 登録期間& p : *it) {
+        if (p.開始日 <= 日付 && (p.終了日.isEmpty() || 日付 <= p.終了日) &&
+            登録番号検査(p.登録番号) == 登録番号判定::正しい)
+            return p.登録番号;
+    }
+    return {};
+}
+
+// The columns of the read, in the order of the SELECT; rows are read by place.
+enum 列 {
+    列_事業所,
+    列_基準日,
+    列_番号,
+    列_日付,
+    列_担当者,
+    列_部門,
+    列_部門名,
+    列_伝票合計,
+    列_行番号,
+    列_費目,
+    列_費目名,
+    列_内外,
+    列_税率,
+    列_金額,
+    列_税額,
+    列_実質金額,
+    列_支払先,
+    列_課税事業所,
+    列_摘要,
+};
+
+QString 伝票文(const 出力指定& 指定) {
+    QString 文 =
+        u"SELECT h.事業所コード, h.番号基準日付, h.出金No, h.出金日付, h.担当者コード, "
+        u"h.部門コード, b.名称, h.実質出金金額合計, d.出金行No, d.費目区分, k.名称, "
+        u"d.内税外税区分, d.消費税率, d.出金金額, d.出金消費税, d.実質出金金額, d.支払先, "
+        u"d.課税事業所区分, d.摘要 "
+        u"FROM T出金 h INNER JOIN T出金明細 d ON d.事業所コード = h.事業所コード "
+        u"AND d.番号基準日付 = h.番号基準日付 AND d.出金No = h.出金No "
+        u"LEFT JOIN M部門 b ON b.コード = h.部門コード "
+        u"LEFT JOIN K費目区分 k ON k.区分 = d.費目区分 "
+        u"WHERE h.出金日付 >= '"_qs +
+        指定.開始日 + u"' AND h.出金日付 <= '"_qs + 指定.終了日 + u"'"_qs;
+    if (!指定.事業所コード.isEmpty() && 指定.事業所コード != u"000")
+        文 += u" AND h.事業所コード = '"_qs + 指定.事業所コード + u"'"_qs;
+    return 文 + u" ORDER BY h.出金日付, h.事業所コード, h.番号基準日付, h.出金No, d.出金行No"_qs;
+}
+
+}  // namespace
+
+bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, const 伝票受取& 受取, QString& エラー) {
+    QHash<QString, 勘定対応> 対応;
+    QHash<QString, QList<登録期間>> 登録;
+    if (!勘定対応読込(環境, 対応) || !登録読込(環境, 登録)) {
+        エラー = u"勘定科目の対応表か支払先の登録表が読めません。"_qs;
+        return false;
+    }
+    記録集合 rs;
+    if (!環境.業務DB検索(rs, 伝票文(指定))) {
+        rs.閉じる();
+        エラー = u"伝票が読めません。"_qs;
+        return false;
+    }
+    QMap<QString, QString> 対応なし;  // expense classes without an account, by code
+    仕訳伝票 t;  // the slip being read; one object for all, so that its lines keep their memory
+    bool 読取中 = false;
+    // The slip read so far goes to the receiver, unless something already went wrong.
+    const auto 渡す = [&] {
+        if (!読取中 || !対応なし.isEmpty() || !エラー.isEmpty()) return true;
+        return 受取(t, エラー);
+    };
+    for (; !rs.EOFか(); rs.MoveNext()) {
+        const QString 事業所 = rs.文字列(列_事業所);
+        const QString 基準日 = rs.文字列(列_基準日);
+        const QString 番号 = rs.文字列(列_番号);
+        if (!読取中 || t.事業所コード != 事業所 || t.番号基準日付 != 基準日 || t.出金No != 番号) {
+            if (!渡す()) break;
+            読取中 = true;
+            t.事業所コード = 事業所;
+            t.番号基準日付 = 基準日;
+            t.出金No = 番号;
+            t.出金日付 = rs.文字列(列_日付);
+            t.担当者コード = rs.文字列(列_担当者);
+            t.部門コード = rs.文字列(列_部門);
+            t.部門名 = rs.文字列(列_部門名);
+            t.実質出金金額合計 = rs.金額値(列_伝票合計);
+            t.行.clear();
+        }
+        仕訳行& l = t.行.emplace_back();
+        l.出金行No = rs.文字列(列_行番号);
+        l.費目区分 = rs.文字列(列_費目);
+        l.費目区分名称 = rs.文字列(列_費目名);
+        l.内税外税区分 = 整数変換(rs.文字列(列_内外));
+        l.消費税率 = rs.金額値(列_税率);
+        l.出金金額 = rs.金額値(列_金額);
+        l.出金消費税 = rs.金額値(列_税額);
+        l.実質出金金額 = rs.金額値(列_実質金額);
+        l.支払先 = rs.文字列(列_支払先);
+        l.課税事業所区分 = rs.文字列(列_課税事業所);
+        l.摘要 = rs.文字列(列_摘要);
+        const auto a = 対応.constFind(l.費目区分);
+        if (a == 対応.cend() || a->勘定科目.isEmpty()) {
+            対応なし.insert(l.費目区分, l.費目区分名称);
+            continue;
+        }
+        l.勘定科目 = a->勘定科目;
+        l.補助科目 = a->補助科目;
+        l.登録番号 = 有効な登録番号(登録, l.支払先, t.出金日付);
+        l.控除割合 = l.登録番号.isEmpty() ? 経過措置控除割合(t.出金日付) : 100;
+        l.税区分 =
+            弥生仕入税区分(l.内税外税区分, l.消費税率, t.出金日付, l.控除割合, a->非課税区分);
+        if (l.税区分.isEmpty() && エラー.isEmpty()) {
+            エラー = u"伝票 "_qs + t.名前() + u" の "_qs + l.出金行No +
+                     u" 行目の税区分が決まりません（税率 "_qs + l.消費税率.文字列() +
+                     u"%、非課税区分「"_qs + a->非課税区分 + u"」）。"_qs;
+        }
+    }
+    const bool 最後 = 渡す();
+    rs.閉じる();
+    if (!対応なし.isEmpty()) {
+        エラー = u"勘定科目の対応がない費目区分があります。何も出力しませんでした。"_qs;
+        for (auto it = 対応なし.cbegin(); it != 対応なし.cend(); ++it)
+            エラー += u"\n"_qs + it.key() + u" "_qs + it.value();
+        return false;
+    }
+    return 最後 && エラー.isEmpty();
+}

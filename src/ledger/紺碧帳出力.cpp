@@ -1,0 +1,85 @@
+#include "ledger/紺碧帳出力.h"
+
+#include <QSaveFile>
+
+#include "slip/起動処理.h"
+#include "text/シフトJIS変換.h"
+#include "text/プラットフォーム.h"
+#include "text/数値書式.h"
+
+紺碧帳出力::紺碧帳出力(プラットフォーム& 基盤, const QString& 自身のフォルダ)
+    : s(基盤, u"紺碧帳出力"_qs) {
+    s.データ.自身のフォルダ = 自身のフォルダ;
+}
+
+int 紺碧帳出力::拒否(const QString& 文言, bool 開始済み) {
+    s.データ.基盤.メッセージ(文言);
+    if (開始済み) {
+        画面なし 画面;
+        紺碧帳起動(s, 画面).終了処理();
+    }
+    return 1;
+}
+
+int 紺碧帳出力::実行(const QStringList& 引数) {
+    出力指定 指定;
+    QString エラー;
+    // The arguments are read before anything is opened, so a wrong one leaves no trace.
+    if (!出力指定::解析(引数, 指定, エラー)) return 拒否(エラー, false);
+    s.データ.コマンドライン = 引数.join(u' ');
+    return 実行(指定);
+}
+
+int 紺碧帳出力::実行(const 出力指定& 指定) {
+    画面なし 画面;
+    紺碧帳起動 起動(s, 画面);
+    if (!起動.データベース開始() || !起動.ユーザ情報初期化())
+        return 拒否(u"データベースが使用できません。"_qs, true);
+
+    // Read and formatted slip by slip into memory; the file is written only when all is whole.
+    const bool 弥生 = 指定.形式 == u"yayoi";
+    QByteArray 内容 = 弥生 ? QByteArray() : CSV見出し();
+    CP932変換器 変換器;
+    集計 = {};
+    QString エラー;
+    const bool 読めた = 仕訳伝票読込(
+        s.データ, 指定,
+        [&](const 仕訳伝票& t, QString& e) {
+            集計.追加(t);
+            if (弥生) return 弥生形式追加(変換器, t, 内容, e);
+            CSV形式追加(t, 内容);
+            return true;
+        },
+        エラー);
+    if (!読めた) return 拒否(エラー, true);
+    if (集計.借方金額合計 != 集計.実質出金金額合計) {
+        return 拒否(u"明細の金額の合計 "_qs + 集計.借方金額合計.文字列() +
+                        u" が伝票の実質出金金額合計 "_qs + 集計.実質出金金額合計.文字列() +
+                        u" と一致しません。何も出力しませんでした。"_qs,
+                    true);
+    }
+    if (!書き出す(指定.出力先, 内容))
+        return 拒否(u"ファイルを書き込めませんでした。\n"_qs + 指定.出力先, true);
+
+    const QString 金額書式 = u"###,###,###,##0"_qs;
+    結果文言 = u"伝票 "_qs + QString::number(集計.伝票数) + u" 件、明細 "_qs +
+               QString::number(集計.行数) + u" 行、借方金額合計 "_qs +
+               書式(集計.借方金額合計, 金額書式).trimmed() + u" 円（うち消費税 "_qs +
+               書式(集計.消費税合計, 金額書式).trimmed() + u" 円）、実質出金金額合計 "_qs +
+               書式(集計.実質出金金額合計, 金額書式).trimmed() + u" 円 → "_qs + 指定.出力先;
+    s.データ.出力履歴書込(u"仕訳出力 "_qs + 指定.形式 + u" "_qs + 指定.開始日 + u"-"_qs +
+                          指定.終了日 + u" "_qs + 結果文言);
+    起動.終了処理();
+    return 0;
+}
+
+bool 紺碧帳出力::書き出す(const QString& パス, const QByteArray& 内容) {
+    // Written beside the target under a temporary name and renamed over it when whole.
+    QSaveFile f(パス);
+    if (!f.open(QIODevice::WriteOnly)) return false;
+    if (f.write(内容) != 内容.size()) {
+        f.cancelWriting();
+        return false;
+    }
+    return f.commit();
+}
