@@ -277,7 +277,9 @@ void frm紺碧帳::スクロール更新() {
             棒.Value = 0;
         } else {
             棒.Enabled = true;
-            棒.Max = 行数 >= 最大行数 ? 10 : 行数 - 4;
+            // Below fewer than 15 lines one blank row stays reachable; a full slip shows none,
+            // and a sixteenth imported line is scrolled to as the bottom row.
+            棒.Max = 行数 >= 最大行数 ? 行数 - 表示行数 : 行数 - 4;
             棒.Value = s.先頭行;
         }
     });

@@ -19,7 +19,7 @@ int frm紺碧帳::見出し空き() const {
 }
 
 int frm紺碧帳::明細空き(int 明細) const {
-    if (明細 < 0 || 明細 >= 最大行数) return 0;  // no line there to be missing
+    if (明細 < 0 || 明細 >= 行枠数) return 0;  // no line there to be missing
     return s.行[明細].費目区分 == 0 ? 1 : 0;
 }
 
@@ -129,6 +129,11 @@ bool frm紺碧帳::必須項目案内() {
         s.現在行 = 行;
         s.表示行 = 行 % 表示行数;
         s.先頭行 = 行 - s.表示行;
+        if (s.先頭行 > 行枠数 - 表示行数) {
+            // The spare slot's line stands at the bottom row, as far as the bar goes.
+            s.先頭行 = 行枠数 - 表示行数;
+            s.表示行 = 行 - s.先頭行;
+        }
         スクロール更新();
         明細表示();
         画面.SetFocus(画面(u"費目区分"_qs, s.表示行));
@@ -183,7 +188,9 @@ void frm紺碧帳::ヘッド終了取得() {
 void frm紺碧帳::頁1終了取得(int r) {
     const QString 元 = s.離脱項目 ? s.離脱項目->名前 : QString();
     if (元 == u"出金金額" || 元 == u"出金消費税") {
-        if (s.現在行 > s.最終行 || (s.最終行 == 14 && s.現在行 == s.最終行)) {
+        // The last line of a full slip leads to the remarks; a sixteenth imported line is
+        // reached from the fifteenth.
+        if (s.現在行 > s.最終行 || (s.最終行 >= 最大行数 - 1 && s.現在行 == s.最終行)) {
             画面.SetFocus(画面(u"出金伝票備考A"_qs));
         } else if (r < 4) {
             画面.SetFocus(画面(u"費目区分"_qs, r + 1));

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "rules/消費税計算.h"
 #include "screen/frm紺碧帳.h"
 #include "text/プラットフォーム.h"
@@ -167,7 +169,10 @@ bool frm紺碧帳::摘要確定(int 行, const QString& 文字列) {
 void frm紺碧帳::明細行表示(int 明細, int 行) {
     表示中([&] {
         const 出金行 空欄{};
-        const bool 範囲内 = 明細 >= 0 && 明細 < 最大行数 && 明細 <= s.最終行 + 1;
+        // The lines in use, and the blank row after them while the slip is not full: a line of
+        // the spare slot is shown only when an import put it there.
+        const bool 範囲内 =
+            明細 >= 0 && (明細 <= s.最終行 || (明細 == s.最終行 + 1 && 明細 < 最大行数));
         const 出金行& l = 範囲内 ? s.行[明細] : 空欄;
         const bool 空 = 表示欄が空(l);
         auto 数 = [空](const 金額& 値) { return 空 ? QString() : 値.文字列(); };
@@ -229,11 +234,19 @@ void frm紺碧帳::行クリア() {
             s.出金行初期化(s.現在行);
             if (s.最終行 < 5) s.先頭行 = 0;
         } else {
-            for (int i = s.現在行 + 1; i <= s.最終行 + 1; ++i) 行を写す(i, i - 1);
+            const int 末 = std::min(s.最終行 + 1, 行枠数 - 1);
+            for (int i = s.現在行 + 1; i <= 末; ++i) 行を写す(i, i - 1);
             s.出金行初期化(s.最終行);
             s.入力変更フラグ = true;
             --s.最終行;
             if (s.最終行 < 5) s.先頭行 = 0;
+            if (s.先頭行 > 最大行数 - 表示行数) {
+                // Without the sixteenth line the view goes back to that of a full slip, whose
+                // bottom row is its last line and no blank row to type a new one into.
+                s.先頭行 = 最大行数 - 表示行数;
+                s.現在行 = std::min(s.現在行, s.最終行);
+                s.表示行 = static_cast<short>(s.現在行 - s.先頭行);
+            }
         }
         s.合計再計算();
         明細表示();

@@ -104,7 +104,7 @@ void 出金セッション::旅費明細取込() {
         // take-over with 添字範囲外.
         for (; !rs.EOFか(); rs.MoveNext()) {
             ++最終行;
-            出金行& l = 行枠(最終行);
+            出金行& l = 新しい行枠(最終行);
             if (!rs.Null(u"費目区分"_qs)) l.費目区分 = rs.整数(u"費目区分"_qs);
             if (!rs.Null(u"旅費摘要"_qs)) {
                 // One carriage return without a line feed, stored as it stands.

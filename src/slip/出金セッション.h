@@ -81,7 +81,11 @@ struct 出金行 : 明細税額 {
     QString 更新日付;
 };
 
+// Lines a slip takes by typing and by the line commands.
 inline constexpr int 最大行数 = 15;
+// Slots of the line table: one more, a spare slot that only a trip application's sixteenth row
+// fills; such a line is stored, loaded and shown like any other.
+inline constexpr int 行枠数 = 最大行数 + 1;
 inline constexpr int 表示行数 = 5;
 
 // The columns (behind SELECT) and joins of the header read: staff joined inner, department and
@@ -99,8 +103,8 @@ class 出金セッション {
     データ環境 データ;
     出金見出し 見出し;
     出金合計 合計;
-    // Lines use slots 0 to 14; slot 15 exists and is never used by a line.
-    std::array<出金行, 最大行数 + 1> 行;
+    // Typed lines use slots 0 to 14; the spare slot 15 holds a sixteenth imported line.
+    std::array<出金行, 行枠数> 行;
 
     bool 新規情報フラグ = true;
     bool 入力変更フラグ = false;
@@ -151,6 +155,9 @@ class 出金セッション {
 
     // A slot of the line table; past the spare slot the table ends with 添字範囲外.
     出金行& 行枠(int 位置);
+    // The same, emptied for a line that comes in: the clear of the lines leaves the spare slot
+    // as it was, so a line landing there must not take over what an earlier slip left.
+    出金行& 新しい行枠(int 位置);
     // An expense class of K費目区分 by its code, as a line takes it over; the statement is
     // traced in the run history. False when no such class exists.
     bool 費目区分検索(int 区分, short& 新区分, QString& 名称, short& 内税外税区分);

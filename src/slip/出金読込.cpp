@@ -120,10 +120,11 @@ void 出金セッション::出金明細読込() {
                        u"'"_qs + u" ORDER BY T出金明細.出金行No"_qs;
     if (データ.業務DB検索(rs, 文)) {
         for (; !rs.EOFか(); rs.MoveNext()) {
-            // A slip holds 15 lines at most; rows beyond them are a fault of the data, left unread.
-            if (最終行 >= 最大行数 - 1) break;
+            // Every stored line comes in, a sixteenth imported one into the spare slot; rows
+            // beyond the table are a fault of the data, left unread.
+            if (最終行 >= 行枠数 - 1) break;
             ++最終行;
-            出金行& r = 行[最終行];
+            出金行& r = 新しい行枠(最終行);
             if (最終行 == 0) 写す(rs, u"会計集計日付", 見出し.会計集計日付);
             if (!rs.Null(u"出金固有行No"_qs)) {
                 r.出金固有行No = rs.文字列(u"出金固有行No"_qs);

@@ -158,11 +158,43 @@ TEST_P(出金読込, 十五行の伝票は枠0から14に入り最終行は14) {
     EXPECT_EQ(s.見出し.最大固有行No, 15);
 }
 
-TEST_P(出金読込, 壊れた十六行目は読まず最終行は15にならない) {
+// A sixteenth line, as a trip application can bring one, is read into the spare slot.
+TEST_P(出金読込, 十六行の伝票は予備の枠まで読まれ最終行は15) {
     投入(u"00000003"_qs, u"20251118"_qs, 16);
     ASSERT_TRUE(読込(u"00000003"_qs));
-    EXPECT_EQ(s.最終行, 14);
-    EXPECT_TRUE(s.行[15].出金金額.ゼロか());
+    EXPECT_EQ(s.最終行, 15);
+    EXPECT_EQ(s.行[14].出金金額, 金額::円(15000));
+    EXPECT_EQ(s.行[15].出金金額, 金額::円(16000));
+    EXPECT_EQ(s.行[15].摘要, u"摘要016"_qs);
+    EXPECT_EQ(s.行[15].出金固有行No, u"016"_qs);
+    EXPECT_EQ(s.見出し.最大固有行No, 16);
+    EXPECT_FALSE(s.新規情報フラグ);
+}
+
+// The clear of the lines leaves the spare slot alone; a line read into it takes nothing over
+// from the slip read before, where its own column is Null.
+TEST_P(出金読込, 予備の枠に読む行は前の伝票の値を持ち越さない) {
+    投入(u"00000003"_qs, u"20251118"_qs, 16);
+    投入(u"00000004"_qs, u"20251118"_qs, 16);
+    ASSERT_TRUE(木->業務DB実行(
+        u"UPDATE T出金明細 SET 支払先 = NULL, 明細メモ = NULL WHERE 出金No = '00000004' AND 出金行No = '016'"_qs));
+    ASSERT_TRUE(木->業務DB実行(
+        u"UPDATE T出金明細 SET 明細メモ = 'メモ16' WHERE 出金No = '00000003' AND 出金行No = '016'"_qs));
+    ASSERT_TRUE(読込(u"00000003"_qs));
+    ASSERT_EQ(s.行[15].支払先, u"支払先016"_qs);
+    ASSERT_EQ(s.行[15].明細メモ, u"メモ16"_qs);
+    ASSERT_TRUE(読込(u"00000004"_qs));
+    EXPECT_EQ(s.最終行, 15);
+    EXPECT_EQ(s.行[15].支払先, QString());
+    EXPECT_EQ(s.行[15].明細メモ, QString());
+}
+
+// Past the line table a row is a fault of the data: it is left unread.
+TEST_P(出金読込, 十七行目は表の外で読まれず最終行は15) {
+    投入(u"00000003"_qs, u"20251118"_qs, 17);
+    ASSERT_TRUE(読込(u"00000003"_qs));
+    EXPECT_EQ(s.最終行, 15);
+    EXPECT_EQ(s.行[15].出金金額, 金額::円(16000));
 }
 
 TEST_P(出金読込, 費目区分のない行は内部結合で戻らず見出しだけなら新規扱い) {

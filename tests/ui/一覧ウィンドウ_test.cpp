@@ -4,12 +4,14 @@
 #include <QDir>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 #include <functional>
 #include <memory>
 
+#include "common/人事連携試験.h"
 #include "common/出金入力.h"
 #include "common/出金準備.h"
 #include "lists/一覧画面集.h"
@@ -272,6 +274,60 @@ TEST_F(人事一覧ウィンドウ試験, 出張申請を選ぶと旅費が行�
     EXPECT_EQ(明細[0][0].toString(), u"交通費\r航空券 羽田-新千歳 往復"_qs);
     EXPECT_EQ(明細[4][1].toLongLong(), 3000);
     EXPECT_EQ(人事の行(), 前);
+}
+
+// A sixteenth expense row lands in the spare line: by Tab alone the operator goes down the lines
+// into it, the grid scrolled to show it at the bottom row, retypes its amount and Tab leads on
+// to the remarks.
+TEST_F(人事一覧ウィンドウ試験, 十六行の申請はTabだけで十六行目まで進み打ち直して備考へ抜ける) {
+    QList<QPair<QString, QString>> 旅費;
+    for (int i = 0; i < 16; ++i) 旅費.append({u"01"_qs, QString::number(1000 * (i + 1))});
+    出張申請を置く(木, u"00000055"_qs, 旅費);
+    if (HasFatalFailure()) return;
+    f.画面.SetFocus(c(u"担当者コード"_qs));
+    主窓->反映();
+    auto 打つ = [](const QString& 文字列) {
+        for (QChar ch : 文字列) QTest::keyClick(QApplication::focusWidget(), ch.toLatin1());
+    };
+    auto Tab = [] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); };
+    打つ(u"1"_qs);
+    Tab();
+    ASSERT_EQ(焦点(), u"出張申請No"_qs);
+    // The key the trip list leaves behind with its pick; the number is typed.
+    s.一覧条件文字列 = u"C000"_qs + 今期 + u"00000055"_qs;
+    打つ(u"00000055"_qs);
+    Tab();
+    ASSERT_EQ(s.最終行, 15);
+
+    for (int i = 0; i < 200 && !(焦点() == u"出金金額" && s.現在行 == 14); ++i) Tab();
+    ASSERT_EQ(焦点(), u"出金金額"_qs);
+    ASSERT_EQ(s.現在行, 14);
+    Tab();
+    EXPECT_EQ(焦点(), u"費目区分"_qs);
+    EXPECT_EQ(s.現在行, 15);
+    auto* 棒 = qobject_cast<QScrollBar*>(主(u"scl_行"_qs));
+    ASSERT_NE(棒, nullptr);
+    EXPECT_EQ(棒->maximum(), 11);
+    EXPECT_EQ(棒->value(), 11);
+    auto 欄 = [this](const QString& 名前, int 行) {
+        return qobject_cast<QLineEdit*>(主(名前, 行))->text();
+    };
+    EXPECT_EQ(欄(u"出金金額"_qs, 4), u"16000"_qs);
+    EXPECT_EQ(c(u"摘要"_qs, 4).Text, u"交通費\r摘要16"_qs);
+    EXPECT_EQ(欄(u"摘要"_qs, 4), c(u"摘要"_qs, 4).Text);
+    EXPECT_EQ(欄(u"出金金額"_qs, 3), u"15000"_qs);
+
+    for (int i = 0; i < 10 && 焦点() != u"出金金額"; ++i) Tab();
+    ASSERT_EQ(焦点(), u"出金金額"_qs);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+    打つ(u"16500"_qs);
+    Tab();
+    EXPECT_EQ(s.行[15].出金金額, 金額::円(16500));
+    EXPECT_EQ(s.合計.出金金額合計, 金額::円(136500));
+    EXPECT_EQ(焦点(), u"出金伝票備考A"_qs);
+    EXPECT_EQ(QApplication::focusWidget(), 主(u"出金伝票備考A"_qs));
+    EXPECT_EQ(s.最終行, 15);
+    写真(主窓.get(), u"十六行目"_qs);
 }
 
 TEST_F(一覧ウィンドウ試験, 担当者一覧で名前を打って探しキーで選ぶとコードが入り次へ進む) {
