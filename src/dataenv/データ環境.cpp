@@ -267,14 +267,23 @@ bool データ環境::業務DB実行(const QString& 文, bool 履歴) {
     return 記録付実行(&業務接続, 文, 履歴);
 }
 
-void データ環境::業務DB一括開始() {
+void データ環境::業務DB一括開始(const QString& 名) {
+    一括名 = 名;
+    一括前カウンタ = 稼動カウンタ;
     if (!業務接続.一括開始()) {
-        エラー履歴書込(業務接続.最終エラー().説明 + u"BEGIN"_qs);
+        エラー履歴書込(業務接続.最終エラー().説明 + u"BEGIN "_qs + 名);
     }
 }
 
-void データ環境::業務DB一括終了() {
-    if (!業務接続.一括終了()) エラー履歴書込(業務接続.最終エラー().説明 + u"COMMIT"_qs);
+bool データ環境::業務DB一括終了() {
+    if (業務接続.一括終了()) return true;
+    // The rows the batch logged since it began stand in the history as done; this row says
+    // from where on they were undone.
+    const QString 以降 =
+        QString::number(static_cast<qint64>(一括前カウンタ) + 1).rightJustified(12, u'0');
+    エラー履歴書込(業務接続.最終エラー().説明 + u"COMMIT "_qs + 一括名 + u" proccounter "_qs +
+                   以降 + u" 以降を取消"_qs);
+    return false;
 }
 
 bool データ環境::環境DB検索(記録集合& 結果, const QString& 文) {

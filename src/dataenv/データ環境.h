@@ -52,10 +52,11 @@ class データ環境 {
     bool 環境DB実行(const QString& 文);
     bool 環境DB実行記録付(const QString& 文);
 
-    // The statements of one store on the general database, committed together; a failure to
-    // begin or to commit is logged like any statement (see データ接続::一括開始).
-    void 業務DB一括開始();
-    void 業務DB一括終了();
+    // The statements of one store on the general database, committed together, named for the
+    // run history. A failure to begin or to commit is logged with that name; a failed commit
+    // undoes the whole batch, whatever the history rows before it say. False then.
+    void 業務DB一括開始(const QString& 名);
+    bool 業務DB一括終了();
 
     void 開始履歴書込();
     void 終了履歴書込();
@@ -142,6 +143,9 @@ class データ環境 {
     void 連携利用者別環境準備();
     void 連携定義読込(連携スロット環境& L);
 
+    QString 一括名;             // the batch under way
+    double 一括前カウンタ = 0;  // the history counter as the batch began
+
     平文暗証解読 平文解読;
     データ接続 環境接続{u"conf"_qs};
     データ接続 業務接続{u"gnr"_qs};
@@ -151,7 +155,7 @@ class データ環境 {
 // at the latest.
 class 業務DB一括 {
   public:
-    explicit 業務DB一括(データ環境& e) : 環境(e) { 環境.業務DB一括開始(); }
+    業務DB一括(データ環境& e, const QString& 名) : 環境(e) { 環境.業務DB一括開始(名); }
     ~業務DB一括() { 環境.業務DB一括終了(); }
     業務DB一括(const 業務DB一括&) = delete;
     業務DB一括& operator=(const 業務DB一括&) = delete;

@@ -15,7 +15,9 @@ void データ環境::他プログラム連携発信(const QString& 終了連携
 }
 
 void データ環境::連携要求受信(bool 人事側, const QString& 起動連携情報_, const QString& 最早日時) {
-    発信元プログラムID.clear();
+    // A request of the HR side is taken out all the same, but this program never answers
+    // there, so it leaves the run unlinked and no answer row is owed anywhere.
+    if (!人事側) 発信元プログラムID.clear();
     記録集合 rs;
     const QString 文 = u"SELECT * FROM プログラム連携情報"_qs + u" WHERE 発信日時 >= '"_qs +
                        最早日時 + u"'"_qs + u" AND 受信プログラムID = '"_qs + u"紺碧帳"_qs +
@@ -26,8 +28,10 @@ void データ環境::連携要求受信(bool 人事側, const QString& 起動�
         rs.閉じる();
         return;
     }
-    発信元プログラムID = rs.文字列(u"発信プログラムID"_qs);
-    受信起動連携情報 = rs.文字列(u"起動連携情報"_qs);
+    if (!人事側) {
+        発信元プログラムID = rs.文字列(u"発信プログラムID"_qs);
+        受信起動連携情報 = rs.文字列(u"起動連携情報"_qs);
+    }
     const QString 削除 = u"DELETE FROM プログラム連携情報"_qs + u" WHERE 発信日時 = '"_qs +
                          rs.文字列(u"発信日時"_qs) + u"'"_qs + u" AND 発信プログラムID = '"_qs +
                          rs.文字列(u"発信プログラムID"_qs) + u"'"_qs +

@@ -51,6 +51,9 @@ bool データ環境::操作者読込() {
         操作者.担当者コード = rs.文字列(u"起動担当者コード"_qs);
     }
     rs.閉じる();
+    // Another program may have changed the operator meanwhile: what this run writes from now
+    // on carries the one read here.
+    環境.起動担当者コード = 操作者.担当者コード;
     return !操作者.担当者コード.trimmed().isEmpty();
 }
 
@@ -89,6 +92,7 @@ void データ環境::操作者確定() {
         基盤.メッセージ(u"データベースに問題が発生し修正できませんでした。"_qs);
         return;
     }
+    環境.起動担当者コード = コード;
     操作者情報読込(コード);
 }
 

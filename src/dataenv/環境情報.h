@@ -17,7 +17,8 @@ struct データベース定義値 {
 };
 
 // Where the program stands and what the configuration database says of its surroundings.
-// Set once at start; only the office code changes later.
+// Set once at start; only the office code changes later, and the operator, read again at every
+// rights check.
 struct プログラム環境情報 : データベース定義値 {
     // The tree
     QString ルートフォルダ;
@@ -52,7 +53,7 @@ struct プログラム環境情報 : データベース定義値 {
     short 曜日別バックアップ[7] = {};  // 月曜 .. 日曜
     QString バックアップ開始時刻;
     QString バックアップフォルダ;
-    QString 起動担当者コード;
+    QString 起動担当者コード;  // the operator as last read or confirmed
 };
 
 // File names of the two kinds of file, the first kind tried first.

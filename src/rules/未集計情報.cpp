@@ -4,6 +4,10 @@
 #include "rules/番号設定.h"
 #include "text/数値変換.h"
 
+bool 未集計情報は業務DBへ(const データ環境& e) {
+    return e.会社.更新実行区分 == 1;
+}
+
 書込結果 未集計情報書込(データ環境& e, const QString& 登録情報区分, const QString& 赤黒区分,
                         const QString& 番号ID, const QString& 事業所コード,
                         const QString& 番号基準日付, const QString& 伝票No, const QString& 履歴No) {
@@ -15,7 +19,7 @@
                        履歴No + u"'"_qs + u",'"_qs + 赤黒区分 + u"'"_qs + u",'"_qs + 伝票No +
                        u"'"_qs + u",''"_qs + u",'0'"_qs + u",'"_qs + 登録情報区分 + u"'"_qs +
                        u",'"_qs + 記録者ID(e.環境) + u"')"_qs;
-    const bool 成功 = e.会社.更新実行区分 == 1 ? e.業務DB実行(文, true) : e.環境DB実行(文);
+    const bool 成功 = 未集計情報は業務DBへ(e) ? e.業務DB実行(文, true) : e.環境DB実行(文);
     if (成功) return {1, {}};
     return {3, u"登録済です。登録できませんでした。"_qs};
 }

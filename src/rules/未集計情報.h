@@ -14,6 +14,10 @@ struct 書込結果 {
     QString 処理結果メッセージ;
 };
 
+// Whether queue rows go to the general database (更新実行区分 1) rather than the
+// configuration database.
+bool 未集計情報は業務DBへ(const データ環境& e);
+
 // One queue row for the aggregation. It goes to the general database, with a history row,
 // when the update program is not started after each store (更新実行区分 1), and otherwise to
 // the configuration database, where that program looks.

@@ -9,7 +9,7 @@
 bool 閲覧記録(データ環境& e, const 閲覧記録指定& 指定) {
     // The counter is read and written back one higher, then the number is checked and the row
     // goes in: as one batch, so that two look-ups at the same moment cannot read one value.
-    業務DB一括 一括(e);
+    業務DB一括 一括(e, u"閲覧記録"_qs);
     return 閲覧記録(番号環境(e), e.環境, 指定);
 }
 

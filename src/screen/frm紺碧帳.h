@@ -125,6 +125,9 @@ class frm紺碧帳 {
     // The refusals and the end of a store or a deletion, shared by both commands.
     void 離脱項目へ();
     bool 書込権限確認(short 操作区分);
+    // After a store or deletion whose batch did not commit: its message, the slip left as it
+    // is. True then.
+    bool 保存未確定なら戻る();
     void 新しい伝票へ();
     // The report program on the slip in memory, whether it is stored or not.
     void 帳票起動する(const QString& 出力区分);

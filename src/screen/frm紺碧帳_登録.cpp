@@ -19,6 +19,16 @@ bool frm紺碧帳::書込権限確認(short 操作区分) {
     return false;
 }
 
+bool frm紺碧帳::保存未確定なら戻る() {
+    if (!s.保存未確定) return false;
+    // Nothing was stored, and the slip is still as typed: the operator hears why and may try
+    // again.
+    s.データ.基盤.お待ち表示(false);
+    s.データ.基盤.メッセージ(s.処理結果メッセージ);
+    離脱項目へ();
+    return true;
+}
+
 void frm紺碧帳::新しい伝票へ() {
     s.出金情報初期化();
     画面全表示();
@@ -55,6 +65,7 @@ void frm紺碧帳::登録処理() {
     } else {
         s.修正登録処理();
     }
+    if (保存未確定なら戻る()) return;
     // The slip is printed from memory, before the clear; a refused right passes in silence.
     if (s.登録確認結果 == 0 && 操作権限OK(d.操作権限確認(u"翠嶺"_qs, u"紺碧帳書"_qs, 4))) {
         帳票起動する(u"0"_qs);

@@ -185,7 +185,7 @@ class 出金セッション {
     // Storing the slip in memory: a new slip, or a correction as the old rows moved to the
     // history and the new state inserted afresh. Every statement stands alone; a failure is
     // logged and the sequence goes on, so a store never stops half-way with an error.
-    // False when the number typed by hand is already stored.
+    // False when the number typed by hand is already stored, or when the batch did not commit.
     bool 新規登録処理();
     void 修正登録処理();
 
@@ -203,6 +203,9 @@ class 出金セッション {
     // updated, 6 delete failed or nothing to delete, 7 deleted.
     short 処理結果区分 = 0;
     QString 処理結果メッセージ;
+    // The batch of the last store or deletion did not commit: none of it stands, and the slip
+    // in memory is back as it was before (処理結果区分 3 or 6).
+    bool 保存未確定 = false;
 
     // Deleting the stored slip: its rows moved to the history as the old state and removed,
     // the queue told, and the schedule's link to it emptied.
@@ -220,6 +223,13 @@ class 出金セッション {
     void 日程連携解除();
 
   private:
+    struct 保存前控え {
+        出金見出し 見出し;
+        decltype(出金セッション::行) 行;
+    };
+    保存前控え 控えを取る();
+    // True when the batch committed; otherwise puts the slip back as it was before the store.
+    bool 確定を確かめる(const 保存前控え& 控え);
     QString 隣接文(bool 前) const;
     bool 行あり(const QString& 文);
     void 挿入結果(bool 成功);

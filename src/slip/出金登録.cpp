@@ -153,7 +153,8 @@ bool 出金セッション::行あり(const QString& 文) {
 // A store reaches other users whole, and its number take stays locked until then, so two
 // users storing at once cannot both find the same number unused.
 bool 出金セッション::新規登録処理() {
-    業務DB一括 一括(データ);
+    const 保存前控え 控え = 控えを取る();
+    業務DB一括 一括(データ, u"新規登録処理"_qs);
     見出し.出金履歴No.clear();
     見出し.旧出金履歴No.clear();
     見出し.処理区分 = u"0"_qs;
@@ -161,11 +162,12 @@ bool 出金セッション::新規登録処理() {
     出金情報書込();
     出金明細情報書込();
     後処理();
-    return true;
+    return 確定を確かめる(控え);
 }
 
 void 出金セッション::修正登録処理() {
-    業務DB一括 一括(データ);
+    const 保存前控え 控え = 控えを取る();
+    業務DB一括 一括(データ, u"修正登録処理"_qs);
     見出し.出金履歴No.clear();
     見出し.旧出金履歴No.clear();
     見出し.処理区分 = u"1"_qs;
@@ -175,6 +177,7 @@ void 出金セッション::修正登録処理() {
         出金情報書込();
         出金明細情報書込();
         後処理();
+        確定を確かめる(控え);
         return;
     }
     // The slip moves to another sequence: the new one stands before the old one goes.
@@ -184,7 +187,20 @@ void 出金セッション::修正登録処理() {
     出金履歴書込();
     出金明細履歴書込();
     後処理();
-    日程連携書換();
+    if (確定を確かめる(控え)) 日程連携書換();
+}
+
+出金セッション::保存前控え 出金セッション::控えを取る() {
+    保存未確定 = false;
+    return {見出し, 行};
+}
+
+bool 出金セッション::確定を確かめる(const 保存前控え& 控え) {
+    if (!保存未確定) return true;
+    // Nothing of the batch stands: the slip goes back to what was typed, to be stored again.
+    見出し = 控え.見出し;
+    行 = 控え.行;
+    return false;
 }
 
 bool 出金セッション::番号採番確認() {
@@ -357,11 +373,26 @@ void 出金セッション::後処理() {
     状態.番号基準日付 = h.番号基準日付;
     状態.出金No = h.出金No;
     状態.出金履歴No = h.出金履歴No;
-    if (const auto 結果 = 出金未集計情報書込(データ, 状態)) {
-        処理結果区分 = 結果->処理結果区分;
-        処理結果メッセージ = 結果->処理結果メッセージ;
+    auto 未集計 = [&] {
+        if (const auto 結果 = 出金未集計情報書込(データ, 状態)) {
+            処理結果区分 = 結果->処理結果区分;
+            処理結果メッセージ = 結果->処理結果メッセージ;
+        }
+    };
+    // A queue row in the general database goes with the batch; one in the configuration
+    // database is written only once the batch stands, so that none points at rows undone.
+    const bool 一括の内 = 未集計情報は業務DBへ(データ);
+    if (一括の内) 未集計();
+    if (!データ.業務DB一括終了()) {
+        保存未確定 = true;
+        if (h.処理区分 == u"2") {
+            削除結果(false);
+        } else {
+            挿入結果(false);
+        }
+        return;
     }
-    データ.業務DB一括終了();
+    if (!一括の内) 未集計();
     if (データ.会社.更新実行区分 != 0) return;
     // The update program reads what this run wrote, through connections opened afresh.
     データ.接続終了();

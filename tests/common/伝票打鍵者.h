@@ -44,6 +44,8 @@ class 伝票打鍵者 {
         打つ(c(u"出金No"_qs), No);
         f.画面.操作_クリック(c(u"btn_画面クリア"_qs));
     }
+    // The register button on the slip as it stands.
+    void 登録() { f.画面.操作_クリック(c(u"btn_登録"_qs)); }
     void 削除(const QString& No) {
         打つ(c(u"出金No"_qs), No);
         基盤.回答.enqueue(応答::はい);
@@ -52,6 +54,8 @@ class 伝票打鍵者 {
 
     断点プラットフォーム 基盤;
     出金セッション s{基盤};
+    // The screen the operator looks at.
+    frm紺碧帳& 入力窓() { return f; }
 
   private:
     部品& c(const QString& 名前, int 行 = -1) { return f.画面(名前, 行); }

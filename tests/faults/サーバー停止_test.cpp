@@ -1,41 +1,18 @@
-#include <QFile>
-#include <QRandomGenerator>
-#include <QTemporaryDir>
-
-#include "common/試験用ツリー.h"
-#include "障害試験.h"
+#include "障害装置.h"
 
 namespace {
 
-const QString 鯖 = QStringLiteral(KONPEKI_SOURCE_DIR "/scripts/pg-server");
-
-// A PostgreSQL server of its own, since this case stops it: the suite's server stays up for the
-// cases that run beside it.
 class サーバー停止 : public ::testing::Test {
   protected:
     void SetUp() override {
         if (!試験用PostgreSQL::利用可能()) GTEST_SKIP() << "KONPEKI_TEST_PG is not set";
-        // The server runs as another user, who must get through the folder.
-        QFile::setPermissions(一時.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
-                                               QFile::ReadOther | QFile::ExeOther);
-        フォルダ = 一時.path() + u"/pg"_qs;
-        const QString 番号 = QString::number(20000 + QRandomGenerator::global()->bounded(20000));
-        ASSERT_TRUE(実行(鯖, {u"start"_qs, フォルダ, 番号}));
-        起動済み = true;
-        ASSERT_TRUE(実行(u"psql"_qs, {u"-h"_qs, フォルダ, u"-p"_qs, 番号, u"-U"_qs, u"postgres"_qs,
-                                      u"-qc"_qs, u"CREATE DATABASE faults"_qs}));
-        木 = std::make_unique<試験用ツリー>(u"host="_qs + フォルダ + u" port="_qs + 番号 +
-                                            u" dbname=faults user=postgres"_qs);
+        ASSERT_TRUE(鯖.起動());
+        木 = std::make_unique<試験用ツリー>(鯖.接続情報());
         ASSERT_TRUE(木->作成済み) << 木->エラー.toStdString();
     }
-    void TearDown() override {
-        木.reset();
-        if (起動済み) 実行(鯖, {u"stop"_qs, フォルダ});
-    }
+    void TearDown() override { 木.reset(); }
 
-    QTemporaryDir 一時;
-    QString フォルダ;
-    bool 起動済み = false;
+    専用PostgreSQL 鯖;
     std::unique_ptr<試験用ツリー> 木;
 };
 
@@ -52,11 +29,11 @@ TEST_F(サーバー停止, 登録の途中で止まり戻ったサーバーで�
     const int 前のエラー = エラー行数(*木);
 
     甲.基盤.点 = u"2"_qs;
-    甲.基盤.着いた時 = [this] { ASSERT_TRUE(実行(鯖, {u"pause"_qs, フォルダ})); };
+    甲.基盤.着いた時 = [this] { ASSERT_TRUE(鯖.停止()); };
     甲.新規(u"三"_qs, 2);
     甲.基盤.着いた時 = nullptr;
     甲.新規(u"四"_qs, 2);  // the server is down
-    ASSERT_TRUE(実行(鯖, {u"resume"_qs, フォルダ}));
+    ASSERT_TRUE(鯖.再開());
     甲.新規(u"五"_qs, 2);  // up again, but this run's connection has failed
     甲.閉じる();
 

@@ -1,10 +1,4 @@
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QStorageInfo>
-
-#include "common/試験用ツリー.h"
-#include "障害試験.h"
+#include "障害装置.h"
 
 namespace {
 
@@ -15,28 +9,10 @@ TEST(容量不足,
      満杯のディスクへの登録は失敗を記録し伝票は全部か無であり空けば次の起動から登録できる) {
     試験用ツリー 木;
     ASSERT_TRUE(木.作成済み);
-    const QString 元 = 木.業務DB();
-    const QString フォルダ = QFileInfo(元).absolutePath();
-    const QString 控え = 木.根() + u"/gnrdb.copy"_qs;
-    ASSERT_TRUE(QFile::copy(元, 控え));
-    if (!実行(u"mount"_qs, {u"-t"_qs, u"tmpfs"_qs, u"-o"_qs, u"size=2m"_qs, u"tmpfs"_qs, フォルダ}))
-        GTEST_SKIP() << "this machine refuses to mount a tmpfs";
-    struct 最後に {
-        QString f;
-        ~最後に() { 実行(u"umount"_qs, {u"-l"_qs, f}); }
-    } 後始末{フォルダ};
-    ASSERT_TRUE(QFile::copy(控え, 元));
-
+    小さなディスク 小;
+    if (!小.載せる(木.業務DB(), 木.根())) GTEST_SKIP() << "this machine refuses to mount a tmpfs";
     // All but a few pages taken by a filler.
-    const QString 詰め物 = フォルダ + u"/filler"_qs;
-    {
-        QFile f(詰め物);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        const QByteArray 塊(4096, 'x');
-        while (QStorageInfo(フォルダ).bytesAvailable() > 160 * 1024 && f.write(塊) == 塊.size()) {
-            f.flush();
-        }
-    }
+    小.満たす(160 * 1024);
 
     伝票打鍵者 甲(木.プログラムフォルダ());
     ASSERT_TRUE(甲.開く());
@@ -60,7 +36,7 @@ TEST(容量不足,
     EXPECT_GT(エラー行数(木), 前のエラー);
     EXPECT_EQ(見出しのない行(木), 0);
 
-    ASSERT_TRUE(QFile::remove(詰め物));
+    ASSERT_TRUE(小.空ける());
     伝票打鍵者 乙(木.プログラムフォルダ());
     ASSERT_TRUE(乙.開く());
     乙.新規(u"空き"_qs, 2);
