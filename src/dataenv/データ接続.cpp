@@ -4,6 +4,8 @@
 #include <QSqlError>
 #include <QSqlQuery>
 
+#include "dataenv/単文確認.h"
+
 データ接続::データ接続(QString 用途)
     : 接続名(u"konpeki-"_qs + 用途 + u"-"_qs +
              QString::number(reinterpret_cast<quintptr>(this), 16)) {}
@@ -50,7 +52,8 @@ bool データ接続::開く(const 接続先& 先) {
             db.setDatabaseName(先.データベース名);
             db.setUserName(先.ユーザー);
             db.setPassword(先.パスワード);
-            db.setConnectOptions(u"connect_timeout=60"_qs);
+            // A backslash in a plain literal stays a backslash, as the statement check reads it.
+            db.setConnectOptions(u"connect_timeout=60;options=-cstandard_conforming_strings=on"_qs);
             break;
         case 接続先::種類::ODBC:
             変換先 = SQL方言::そのまま;
@@ -96,11 +99,13 @@ bool データ接続::検索(記録集合& 結果, const QString& 文) {
         エラー = {u"3704"_qs, u"接続が開かれていません。"_qs};
         return false;
     }
+    QString 単文;
+    if (!一文に(文, 単文)) return false;
     結果.問合せ = std::make_unique<QSqlQuery>(生接続());
     結果.問合せ->setForwardOnly(true);
     // Numbers come as their decimal text, so money is never passed through a double.
     結果.問合せ->setNumericalPrecisionPolicy(QSql::HighPrecision);
-    if (!文実行(*結果.問合せ, SQL方言変換(文, 変換先))) {
+    if (!文実行(*結果.問合せ, 単文)) {
         エラー記録(結果.問合せ->lastError());
         return false;
     }
@@ -113,12 +118,43 @@ bool データ接続::実行(const QString& 文) {
         エラー = {u"3704"_qs, u"接続が開かれていません。"_qs};
         return false;
     }
+    QString 単文;
+    if (!一文に(文, 単文)) return false;
     QSqlQuery q(生接続());
-    if (!文実行(q, SQL方言変換(文, 変換先))) {
+    if (!文実行(q, 単文)) {
         エラー記録(q.lastError());
         return false;
     }
     return true;
+}
+
+bool データ接続::一文に(const QString& 文, QString& 単文) {
+    単文 = SQL方言変換(文, 変換先);
+    const 単文判定 判定 = 単文確認(単文, 変換先);
+    if (判定.単文()) {
+        単文.truncate(判定.長さ);
+        return true;
+    }
+    // The text goes on after its statement: refused as the engine refuses a broken statement.
+    qsizetype 語末 = 判定.余り + 1;
+    while (語末 < 単文.size() && (単文.at(語末).isLetterOrNumber() || 単文.at(語末) == u'_')) {
+        ++語末;
+    }
+    const QString 語 = 単文.mid(判定.余り, 語末 - 判定.余り);
+    switch (変換先) {
+        case SQL方言::SQLite:
+            エラー = {u"1"_qs,
+                      u"near \""_qs + 語 + u"\": syntax error Unable to execute statement"_qs};
+            break;
+        case SQL方言::PostgreSQL:
+            エラー = {u"42601"_qs, u"ERROR:  syntax error at or near \""_qs + 語 +
+                                       u"\"\n(42601) QPSQL: Unable to create query"_qs};
+            break;
+        case SQL方言::そのまま:
+            エラー = {u"42000"_qs, u"syntax error at or near \""_qs + 語 + u"\""_qs};
+            break;
+    }
+    return false;
 }
 
 bool データ接続::制御文(const QString& 文) {

@@ -63,6 +63,9 @@ class データ接続 {
     void エラー記録(const QSqlError& e);
     bool 文実行(QSqlQuery& q, const QString& 文);
     bool 制御文(const QString& 文);
+    // The statement as the engine gets it, translated and checked to be one statement; false
+    // with a syntax error otherwise.
+    bool 一文に(const QString& 文, QString& 単文);
 
     QString 接続名;
     SQL方言 変換先 = SQL方言::SQLite;
