@@ -82,9 +82,9 @@ void frm紺碧帳::付属書類を外す(const QString& Key) {
         rs.閉じる();
         // The row goes first: a copy that cannot be deleted stays behind unseen.
         if (付属書類削除(d, 出金情報名, 識別, SEQNo)) {
+            // The notice is painted by the removal, once the window takes no more input.
             部品& 知らせ = 画面(u"お知らせ"_qs);
             知らせ.Caption = u"＊＊削除中です。しばらくお待ちください＊＊"_qs;
-            d.基盤.保留イベント処理();
             付属書類実体削除(d, 付属書類名前(書類名), 保存名(出金情報名, 識別, SEQNo));
             知らせ.Caption.clear();
         }

@@ -17,11 +17,29 @@ namespace {
     const int i = 指定.既定ボタン - 1;
     return ボタン.value(i >= 0 && i < ボタン.size() ? i : 0);
 }
+
+// The answer that changes nothing, given after an unanswered question was told.
+応答 控えめな応答(ボタン種別 ボタン) {
+    switch (ボタン) {
+        case ボタン種別::はいいいえ:
+            return 応答::いいえ;
+        case ボタン種別::中止再試行無視:
+            return 応答::中止;
+        case ボタン種別::OK:
+            return 応答::OK;
+        default:
+            return 応答::キャンセル;
+    }
+}
 }  // namespace
 
 応答 台本プラットフォーム::メッセージ表示(const メッセージ指定& 指定) {
     表示済み.append(指定);
-    return 回答.isEmpty() ? 既定の応答(指定) : 回答.dequeue();
+    if (!回答.isEmpty()) return 回答.dequeue();
+    // A box with OK alone tells; any other asks, and its answer belongs to the script.
+    if (指定.ボタン != ボタン種別::OK && 漏れを告げる(u"答えの無い問い: "_qs + 指定.本文))
+        return 控えめな応答(指定.ボタン);
+    return 既定の応答(指定);
 }
 
 bool 台本プラットフォーム::文書を開く(const QString& パス, const QString&) {

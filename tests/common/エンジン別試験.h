@@ -9,8 +9,10 @@
 #include "text/台本プラットフォーム.h"
 
 // A fixture whose cases run twice: with the general database in SQLite (false) and in
-// PostgreSQL (true). The PostgreSQL run is skipped when no test server is set.
-class エンジン別試験 : public ::testing::TestWithParam<bool> {
+// PostgreSQL (true). The PostgreSQL run is skipped when no test server is set. The platform is
+// the scripted one, or one derived from it that watches more.
+template <class 基盤型>
+class エンジン別試験基 : public ::testing::TestWithParam<bool> {
   protected:
     void SetUp() override {
         if (GetParam()) {
@@ -32,9 +34,11 @@ class エンジン別試験 : public ::testing::TestWithParam<bool> {
 
     std::unique_ptr<試験用PostgreSQL> pg;
     std::unique_ptr<試験用ツリー> 木;
-    台本プラットフォーム 基盤;
+    基盤型 基盤;
     データ環境 環境{基盤};
 };
+
+using エンジン別試験 = エンジン別試験基<台本プラットフォーム>;
 
 #define KONPEKI_両エンジンで(fixture)                                           \
     INSTANTIATE_TEST_SUITE_P(エンジン, fixture, ::testing::Values(false, true), \

@@ -106,6 +106,10 @@ bool 試験用ツリー::環境DB実行(const QString& 文) {
 bool 試験用ツリー::業務DB実行(const QString& 文) {
     return 業務().実行(文);
 }
+bool 試験用ツリー::業務DB素で実行(const QString& 文) {
+    QSqlQuery q(業務().生接続());
+    return q.exec(文);
+}
 QList<QVariantList> 試験用ツリー::環境DB行(const QString& 文) {
     return 全行(環境(), 文);
 }

@@ -46,6 +46,8 @@ class 試験用ツリー {
     // Runs one statement on the configuration or general database behind the program's back.
     bool 環境DB実行(const QString& 文);
     bool 業務DB実行(const QString& 文);
+    // A statement in the engine's own words (a trigger, say), passed by no translation.
+    bool 業務DB素で実行(const QString& 文);
     // All rows of a query, each row as its column values in order.
     QList<QVariantList> 環境DB行(const QString& 文);
     QList<QVariantList> 業務DB行(const QString& 文);

@@ -40,7 +40,12 @@ class 操作権限 : public エンジン別試験 {
         設定(u"UPDATE 翠嶺 SET 処理分類 = "_qs + QString::number(分類) +
              u" WHERE プログラムID = '紺碧帳'"_qs);
     }
-    void 暗証番号あり() { 業務(u"UPDATE Mユーザ SET 暗証番号有無 = 1"_qs); }
+    // A company with PINs; where the PIN window comes up nobody types one and it closes by its
+    // frame.
+    void 暗証番号あり() {
+        業務(u"UPDATE Mユーザ SET 暗証番号有無 = 1"_qs);
+        基盤.画面表示時 = [](const QString&) {};
+    }
     void 起動担当者(const QString& 値) {
         設定(u"UPDATE 動作環境定義 SET 起動担当者コード = "_qs + 値);
     }

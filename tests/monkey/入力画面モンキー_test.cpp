@@ -47,6 +47,8 @@ class 入力画面モンキー : public 入力画面試験, public ::testing::Wi
         }
         // Answers for whatever message box this event asks.
         基盤.回答.clear();
+        // A random operator: what he does not answer closes by its default.
+        基盤.既定で答える = true;
         static const QList<応答> 答 = {応答::はい, 応答::いいえ, 応答::OK, 応答::キャンセル};
         for (int i = r->範囲(3); i > 0; --i) 基盤.回答.enqueue(r->選ぶ(答));
 

@@ -89,7 +89,9 @@ TEST_P(一日の業務, 三枚打ち最初へ戻って直し二枚目を消し�
     f->画面.操作_入力(c(u"出金No"_qs), u"2"_qs);
     f->画面.操作_Tab();
     ASSERT_FALSE(s.新規情報フラグ);
-    f->画面.操作_クリック(c(u"btn_削除"_qs));  // No, the default
+    基盤.回答.enqueue(応答::いいえ);
+    f->画面.操作_クリック(c(u"btn_削除"_qs));
+    EXPECT_EQ(基盤.表示済み.last().既定ボタン, 2);  // No is the default
     EXPECT_EQ(表(), (QList<int>{3, 6, 1, 8, 5, 4, 4}));
     基盤.回答.enqueue(応答::はい);
     f->画面.操作_クリック(c(u"btn_削除"_qs));

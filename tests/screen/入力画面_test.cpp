@@ -217,6 +217,11 @@ TEST_F(入力画面, 変更のあと備考Bを抜けると登録が求められ�
     見出しを埋める();
     行を入れる(1);
     auto 求め = [this] { return 基盤.表示画面.count({u"msg印刷確認"_qs, true}); };
+    // The operator declines the question: only its coming is looked at here.
+    基盤.画面表示時 = [this](const QString& 名) {
+        if (名 == u"msg印刷確認")
+            f->印刷確認.画面.操作_クリック(f->印刷確認.画面(u"btn_いいえ"_qs));
+    };
     f->画面.操作_フォーカス(c(u"出金伝票備考B"_qs));
     f->画面.操作_Tab();
     EXPECT_EQ(求め(), 0);  // nothing changed yet

@@ -110,10 +110,12 @@ TEST_F(画面命令, 印刷は問いにはいで要求しどの場合も離れ�
     EXPECT_EQ(問い(), QStringList{u"印刷しますか?"_qs});
     EXPECT_TRUE(帳票起動記録().isEmpty());
     EXPECT_EQ(焦点(), u"摘要(0)"_qs);
+    基盤.回答.enqueue(応答::はい);
     f->画面.操作_クリック(c(u"btn_印刷"_qs));
     EXPECT_EQ(帳票起動記録(), QStringList{引数(u"0"_qs, No)});
     EXPECT_EQ(基盤.起動済み.last().作業フォルダ, 木.プログラムフォルダ());
     EXPECT_EQ(焦点(), u"摘要(0)"_qs);
+    基盤.回答.enqueue(応答::はい);
     f->画面.操作_クリック(c(u"btn_プレビュ"_qs));
     EXPECT_EQ(問い().last(), u"プレビュしますか?"_qs);
     EXPECT_EQ(帳票起動記録().last(), 引数(u"1"_qs, No));
@@ -128,6 +130,7 @@ TEST_F(画面命令, PDF出力の後は一秒半ほど待って書類の一覧�
     呼ぶ(No);
     ASSERT_TRUE(c(u"btn_帳票イメージ出力"_qs).Visible);
     const int 前 = 基盤.イベント処理回数;
+    基盤.回答.enqueue(応答::はい);
     f->画面.操作_クリック(c(u"btn_帳票イメージ出力"_qs));
     EXPECT_EQ(問い(), QStringList{u"PDFを作成しますか?"_qs});
     EXPECT_EQ(帳票起動記録(), QStringList{引数(u"3"_qs, No)});
@@ -172,7 +175,8 @@ TEST_F(画面命令, 削除は既定がいいえの問いではいなら消し�
     const QString 一 = 保存する(2);
     呼ぶ(一);
     f->画面.操作_フォーカス(c(u"摘要"_qs, 1));
-    f->画面.操作_クリック(c(u"btn_削除"_qs));  // answered by the default button: No
+    基盤.回答.enqueue(応答::いいえ);
+    f->画面.操作_クリック(c(u"btn_削除"_qs));
     ASSERT_EQ(基盤.表示済み.size(), 1);
     EXPECT_EQ(基盤.表示済み[0].本文, u"削除しますか?"_qs);
     EXPECT_EQ(基盤.表示済み[0].既定ボタン, 2);
@@ -196,6 +200,7 @@ TEST_F(画面命令, 日程に結ばれた伝票の削除は警告を前に付�
         u"INSERT INTO T営業活動明細 (担当者コード, 日付, 開始時刻, 終了時刻, 出金事業所コード, 出金番号基準日付, 出金No) VALUES ('00003', '20251120', '1000', '1100', '000', '20260331', '"_qs +
         一 + u"')"_qs));
     呼ぶ(一);
+    基盤.回答.enqueue(応答::いいえ);
     f->画面.操作_クリック(c(u"btn_削除"_qs));
     EXPECT_EQ(問い(), QStringList{u"日程情報に登録済です。削除しますか?"_qs});
 }

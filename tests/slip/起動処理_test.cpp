@@ -98,6 +98,7 @@ TEST_F(起動, 翠嶺の表が書けなければ知らせて開始は続く) {
 // Nobody answers the PIN window here: it closes by its frame, and the start ends.
 TEST_F(起動, 暗証番号のある会社で拒まれた操作者は操作権限がありませんで止まる) {
     ASSERT_TRUE(木.業務DB実行(u"UPDATE Mユーザ SET 暗証番号有無 = 1"_qs));
+    基盤.画面表示時 = [](const QString&) {};
     ASSERT_TRUE(木.業務DB実行(
         u"UPDATE 担当者別操作許可プログラム SET 操作許可 = '1' WHERE プログラムID = '紺碧帳'"_qs));
     ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);

@@ -359,7 +359,8 @@ TEST_F(入力画面ウィンドウ試験, 一日の業務をキーと釦で進�
     欄(u"出金No"_qs)->selectAll();
     打つ(u"2"_qs);
     Tab();
-    QTest::mouseClick(w(u"btn_削除"_qs), Qt::LeftButton);  // the default answer, No
+    基盤.回答.enqueue(応答::いいえ);
+    QTest::mouseClick(w(u"btn_削除"_qs), Qt::LeftButton);
     EXPECT_EQ(数("T出金"), 3);
     基盤.回答.enqueue(応答::はい);
     QTest::mouseClick(w(u"btn_削除"_qs), Qt::LeftButton);

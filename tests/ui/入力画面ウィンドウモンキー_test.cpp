@@ -42,6 +42,8 @@ class 入力画面ウィンドウモンキー : public ::testing::TestWithParam<
 
     void 一つ() {
         基盤.回答.clear();
+        // A random operator: what he does not answer closes by its default.
+        基盤.既定で答える = true;
         static const QList<応答> 答 = {応答::はい, 応答::いいえ, 応答::OK, 応答::キャンセル};
         for (int i = r->範囲(3); i > 0; --i) 基盤.回答.enqueue(r->選ぶ(答));
         QWidget* 先 = QApplication::focusWidget();
