@@ -5,7 +5,6 @@
 #include "screen/frm紺碧帳.h"
 #include "slip/起動処理.h"
 #include "text/台本プラットフォーム.h"
-#include "窓なしの入力画面.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include "common/エンジン別試験.h"
 #include "common/伝票投入.h"
+#include "common/窓なしの入力画面.h"
 #include "common/連携要求.h"
-#include "窓なしの入力画面.h"
 
 namespace {
 
