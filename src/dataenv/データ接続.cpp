@@ -107,6 +107,7 @@ bool データ接続::検索(記録集合& 結果, const QString& 文) {
     結果.問合せ->setNumericalPrecisionPolicy(QSql::HighPrecision);
     if (!文実行(*結果.問合せ, 単文)) {
         エラー記録(結果.問合せ->lastError());
+        結果.閉じる();  // a failed statement has no columns: readers tell it from an empty result
         return false;
     }
     結果.MoveNext();

@@ -111,7 +111,8 @@ bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, con
         return false;
     }
     記録集合 rs;
-    if (!環境.業務DB検索(rs, 伝票文(指定))) {
+    // No slip in the period is an empty export; only a statement that failed stops it.
+    if (!環境.業務DB検索(rs, 伝票文(指定)) && rs.列数() == 0) {
         rs.閉じる();
         エラー = u"伝票が読めません。"_qs;
         return false;

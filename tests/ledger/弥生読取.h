@@ -72,6 +72,7 @@ inline bool 弥生ファイル読取(const QString& パス, QList<弥生読取�
         return false;
     }
     const QByteArray バイト = f.readAll();
+    if (バイト.isEmpty()) return true;  // an export of no slip has no row
     if (バイト.count('\n') != バイト.count("\r\n") || !バイト.endsWith("\r\n")) {
         エラー = u"CRLF でない行がある"_qs;
         return false;

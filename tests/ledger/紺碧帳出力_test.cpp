@@ -104,6 +104,14 @@ TEST_P(弥生出力, 期間の外の伝票は出さない) {
     EXPECT_EQ(行.last().項目[3], u"2025/11/21"_qs);
 }
 
+TEST_P(弥生出力, 伝票の無い期間は空のファイルを書き零件を告げる) {
+    五伝票();
+    ASSERT_EQ(出力する(u"yayoi"_qs, u"20200101"_qs, u"20201231"_qs), 0) << 結果文言.toStdString();
+    EXPECT_TRUE(読む().isEmpty());
+    EXPECT_EQ(集計.伝票数, 0);
+    EXPECT_TRUE(結果文言.startsWith(u"伝票 0 件、明細 0 行"_qs)) << 結果文言.toStdString();
+}
+
 TEST_P(弥生出力, 十五行の伝票は先頭と十三の中間と最終の識別フラグで十六行目は打てない) {
     s.出金情報初期化();
     出金日付入力(s, u"20251120"_qs);

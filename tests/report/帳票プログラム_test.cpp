@@ -46,6 +46,7 @@ TEST_P(帳票プログラム, PDF出力は本物の紺碧帳書を起こし待�
     ASSERT_FALSE(画面側.新規情報フラグ);
     EXPECT_FALSE(f.画面(u"btn_付属書類削除"_qs).Enabled);
 
+    画面基盤.回答.enqueue(応答::はい);
     f.画面.操作_クリック(f.画面(u"btn_帳票イメージ出力"_qs));
     EXPECT_EQ(画面基盤.表示文言(), QStringList{u"PDFを作成しますか?"_qs});
     ASSERT_EQ(画面基盤.起動済み.size(), 1);
