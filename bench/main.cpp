@@ -23,8 +23,8 @@ void 結果表示(const char* 名前, std::vector<double> 標本, const char* �
     if (!作成済み) QTextStream(stderr) << エラー << "\n";
 }
 
-// With names ("start", "data", "screen", "slips", "store", "delete", "lists", "report", "trip", "export")
-// only those run; without, all.
+// With names ("start", "data", "screen", "slips", "store", "delete", "lists", "report", "trip",
+// "export") only those run; without, all.
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     const QStringList 名前 = app.arguments().mid(1);

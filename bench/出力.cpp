@@ -19,9 +19,9 @@ void 出力計測() {
             紺碧帳出力 p(基盤, 根 + u"/prgbin"_qs);
             QElapsedTimer t;
             t.start();
-            const int r = p.実行(QStringList{u"--from"_qs, u"20000101"_qs, u"--to"_qs,
-                                             u"20991231"_qs, u"--format"_qs, 形式, u"--out"_qs,
-                                             出力先});
+            const int r =
+                p.実行(QStringList{u"--from"_qs, u"20000101"_qs, u"--to"_qs, u"20991231"_qs,
+                                   u"--format"_qs, 形式, u"--out"_qs, 出力先});
             時間.push_back(ミリ秒(t));
             if (r != 0 || p.集計.伝票数 < 100000) {
                 std::printf("export failed: %s\n",
@@ -34,7 +34,7 @@ void 出力計測() {
                 std::printf("%s\n  %lld bytes\n", p.結果文言.toLocal8Bit().constData(),
                             static_cast<long long>(QFile(出力先).size()));
         }
-        結果表示(形式 == u"yayoi" ? "export, 100k slips, yayoi" : "export, 100k slips, csv",
-                 時間, "ms");
+        結果表示(形式 == u"yayoi" ? "export, 100k slips, yayoi" : "export, 100k slips, csv", 時間,
+                 "ms");
     }
 }
