@@ -1,50 +1,12 @@
-#include <memory>
-
-#include "common/エンジン別試験.h"
-#include "common/出金準備.h"
-#include "screen/frm紺碧帳.h"
+#include "両エンジン入力画面.h"
 
 namespace {
 
 // A working day replayed through the entry screen on both engines: three new slips, a step back
 // to the first, a correction, a deletion answered No and then Yes, a clear with changes, a quit
 // with changes answered No and then Yes. After each step the tables tell what happened.
-class 一日の業務 : public エンジン別試験 {
+class 一日の業務 : public 両エンジン入力画面 {
   protected:
-    void SetUp() override {
-        エンジン別試験::SetUp();
-        if (IsSkipped() || HasFatalFailure()) return;
-        基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
-        出金セッション準備(s, *木);
-        if (HasFatalFailure()) return;
-        f = std::make_unique<frm紺碧帳>(s);
-        f->画面読込([this] { s.出金情報初期化(); });
-        f->停止 = [this] { ++停止回数; };
-        f->フォーカス設定(c(u"担当者コード"_qs));
-        基盤.画面表示時 = [this](const QString& 名) {
-            if (名 == u"msg印刷確認")
-                f->印刷確認.画面.操作_クリック(f->印刷確認.画面(u"btn_登録"_qs));
-        };
-    }
-    部品& c(const QString& 名前, int 行 = -1) { return f->画面(名前, 行); }
-    void 打ってTab(部品& 欄, const QString& 文字列) {
-        f->画面.操作_入力(欄, 文字列);
-        f->画面.操作_Tab();
-    }
-    // A slip of n lines from the staff code on, stored by the register button.
-    void 伝票を打つ(const QString& 担当者, int n) {
-        打ってTab(c(u"担当者コード"_qs), 担当者);
-        for (int i = 0; i < n; ++i) {
-            部品& 区分 = *f->画面.フォーカス();
-            ASSERT_EQ(区分.名前, u"費目区分"_qs);
-            打ってTab(区分, u"3"_qs);
-            for (int k = 0; k < 10 && f->画面.フォーカス()->名前 != u"出金金額"; ++k) {
-                f->画面.操作_Tab();
-            }
-            打ってTab(*f->画面.フォーカス(), QString::number(1000 * (i + 1)));
-        }
-        f->画面.操作_クリック(c(u"btn_登録"_qs));
-    }
     // Rows of each table, in one list: T出金, T出金明細, R出金, R出金明細, queue, browse, and the
     // error rows of the run history.
     QList<int> 表() {
@@ -58,11 +20,6 @@ class 一日の業務 : public エンジン別試験 {
                   .toInt();
         return 数;
     }
-    QString 焦点() const { return f->画面.フォーカス() ? f->画面.フォーカス()->名前 : QString(); }
-
-    出金セッション s{基盤};
-    std::unique_ptr<frm紺碧帳> f;
-    int 停止回数 = 0;
 };
 
 TEST_P(一日の業務, 三枚打ち最初へ戻って直し二枚目を消しクリアして終わる) {
@@ -78,7 +35,7 @@ TEST_P(一日の業務, 三枚打ち最初へ戻って直し二枚目を消し�
     EXPECT_EQ(表(), (QList<int>{3, 6, 0, 6, 3, 3, 3}));  // a browse row per step
 
     f->画面.操作_フォーカス(c(u"費目区分"_qs, 0));
-    for (int k = 0; k < 10 && 焦点() != u"出金金額"; ++k) f->画面.操作_Tab();
+    for (int k = 0; k < 10 && f->画面.フォーカス()->名前 != u"出金金額"; ++k) f->画面.操作_Tab();
     打ってTab(*f->画面.フォーカス(), u"1500"_qs);
     f->画面.操作_クリック(c(u"btn_登録"_qs));
     EXPECT_EQ(表(), (QList<int>{3, 6, 1, 8, 5, 3, 4}));
