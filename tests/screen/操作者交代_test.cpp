@@ -1,22 +1,18 @@
 #include <gtest/gtest.h>
 
+#include "common/エンジン別試験.h"
 #include "common/窓なしの入力画面.h"
-#include "common/試験用ツリー.h"
 #include "text/台本プラットフォーム.h"
 
 namespace {
 
 // The program as it starts, in a company that asks PINs, with operator 00001 at the workplace.
 // While it runs, the menu program puts another operator into 動作環境定義.
-class 操作者交代 : public ::testing::TestWithParam<bool> {
+class 操作者交代 : public エンジン別試験 {
   protected:
     void SetUp() override {
-        if (GetParam()) {
-            if (!試験用PostgreSQL::利用可能()) GTEST_SKIP() << "KONPEKI_TEST_PG is not set";
-            pg = std::make_unique<試験用PostgreSQL>();
-        }
-        木 = std::make_unique<試験用ツリー>(pg ? pg->接続情報() : QString());
-        ASSERT_TRUE(木->作成済み) << 木->エラー.toStdString();
+        エンジン別試験::SetUp();
+        if (IsSkipped() || HasFatalFailure()) return;
         ASSERT_TRUE(木->業務DB実行(u"UPDATE Mユーザ SET 暗証番号有無 = 1"_qs));
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
         s.データ.自身のフォルダ = 木->プログラムフォルダ();
@@ -61,9 +57,6 @@ class 操作者交代 : public ::testing::TestWithParam<bool> {
         return r;
     }
 
-    std::unique_ptr<試験用PostgreSQL> pg;
-    std::unique_ptr<試験用ツリー> 木;
-    台本プラットフォーム 基盤;
     出金セッション s{基盤};
     frm紺碧帳 f{s};
     窓なしの入力画面 画面{f, [this] { 起動.伝票読込(); }};
@@ -117,7 +110,6 @@ TEST_P(操作者交代, 動作中に変わった起動担当者で権限が判�
               (QStringList{最初, 三人目, 三人目}));
 }
 
-INSTANTIATE_TEST_SUITE_P(エンジン, 操作者交代, ::testing::Values(false, true),
-                         [](const auto& i) { return i.param ? "PostgreSQL" : "SQLite"; });
+KONPEKI_両エンジンで(操作者交代);
 
 }  // namespace
