@@ -42,3 +42,19 @@ bool CP932変換器::追加(const QString& 文字列, QByteArray& 出力, qsizet
     出力.resize(出力.size() - static_cast<qsizetype>(出力残));
     return true;
 }
+
+bool CP932変換器::表あり() const {
+    return 変換 != 表なし;
+}
+
+int CP932変換器::単位のバイト数(char16_t 単位) {
+    if (変換 == 表なし) return -1;
+    char* 入 = reinterpret_cast<char*>(&単位);
+    size_t 入力残 = sizeof 単位;
+    char 出力[8];
+    char* 出 = 出力;
+    size_t 出力残 = sizeof 出力;
+    const size_t r = iconv(static_cast<iconv_t>(変換), &入, &入力残, &出, &出力残);
+    iconv(static_cast<iconv_t>(変換), nullptr, nullptr, nullptr, nullptr);
+    return r == static_cast<size_t>(-1) ? -1 : static_cast<int>(sizeof 出力 - 出力残);
+}

@@ -1,8 +1,6 @@
-#include <iconv.h>
-
 #include <QList>
-#include <QSysInfo>
 
+#include "text/シフトJIS変換.h"
 #include "text/項目編集.h"
 
 namespace {
@@ -27,11 +25,10 @@ bool 下位サロゲートか(char16_t u) {
 QList<文字片> 文字ごとのバイト長(const QString& 文字列) {
     QList<文字片> 片;
     片.reserve(文字列.size());
-    iconv_t 変換 = iconv_open(
-        "CP932", QSysInfo::ByteOrder == QSysInfo::LittleEndian ? "UTF-16LE" : "UTF-16BE");
-    const bool 表あり = 変換 != reinterpret_cast<iconv_t>(-1);
+    CP932変換器 変換;
+    const bool 表あり = 変換.表あり();
     for (qsizetype i = 0; i < 文字列.size(); ++i) {
-        char16_t 単位 = 文字列[i].unicode();
+        const char16_t 単位 = 文字列[i].unicode();
         if (上位サロゲートか(単位) && i + 1 < 文字列.size() &&
             下位サロゲートか(文字列[i + 1].unicode())) {
             片.append({2, 2});
@@ -43,15 +40,9 @@ QList<文字片> 文字ごとのバイト長(const QString& 文字列) {
             片.append({1, 単位 < 0x80 || (単位 >= 0xFF61 && 単位 <= 0xFF9F) ? 1 : 2});
             continue;
         }
-        char* 入 = reinterpret_cast<char*>(&単位);
-        size_t 入力残 = sizeof 単位;
-        char 出力[8];
-        char* 出 = 出力;
-        size_t 出力残 = sizeof 出力;
-        const size_t r = iconv(変換, &入, &入力残, &出, &出力残);
-        片.append({1, r == static_cast<size_t>(-1) ? 1 : static_cast<int>(sizeof 出力 - 出力残)});
+        const int バイト数 = 変換.単位のバイト数(単位);
+        片.append({1, バイト数 < 0 ? 1 : バイト数});
     }
-    if (表あり) iconv_close(変換);
     return 片;
 }
 
