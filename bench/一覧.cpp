@@ -49,7 +49,7 @@ void 測る(const char* 名前, 一覧画面& 窓, const QString& 釦, const QSq
     結果表示((名 + " ratio to raw").c_str(), 比, "x");
 }
 
-void 測る全て(一覧画面集& 集, 出金セッション& s, const QSqlDatabase& db) {
+void 測る全て(一覧画面集& 集, 画面モデル& 主, const QSqlDatabase& db) {
     一覧画面& 担当者 = 集(u"wnd担当者一覧"_qs);
     担当者.読込();
     担当者.画面.操作_入力(担当者.画面(u"在籍区分"_qs), u"2"_qs);
@@ -61,7 +61,7 @@ void 測る全て(一覧画面集& 集, 出金セッション& s, const QSqlData
 
     // Opened from a slip of the last day: the year before it.
     一覧画面& 番号 = 集(u"wnd出金No一覧"_qs);
-    s.一覧条件文字列 = u"T出金.番号基準日付 <> '' AND T出金.出金日付 >= '20230215'"_qs;
+    主.状態.一覧.条件 = u"T出金.番号基準日付 <> '' AND T出金.出金日付 >= '20230215'"_qs;
     番号.読込();
     測る("slip No list", 番号, u"btn_複合検索"_qs, db);
 
@@ -89,7 +89,7 @@ void 一覧計測() {
     // The raw reads share the program's connection, and let it go before it is closed.
     {
         const QSqlDatabase db = s.データ.業務DB().生接続();
-        測る全て(集, s, db);
+        測る全て(集, f.画面, db);
     }
     s.データ.接続終了();
 }

@@ -35,7 +35,7 @@ bool 十五行の申請を置く(const QString& 人事根) {
 }  // namespace
 
 // The take-over of a trip application with 15 expense rows, from the trip list's pick (its key
-// left in 一覧条件文字列 and the field left) to the lines drawn; HR database in SQLite.
+// left as the list's answer and the field left) to the lines drawn; HR database in SQLite.
 void 出張申請計測() {
     QTemporaryDir 一時;
     ツリー作成指定 指定;
@@ -75,7 +75,7 @@ void 出張申請計測() {
 
         QElapsedTimer t;
         t.start();
-        s.一覧条件文字列 = 申請鍵;
+        f.状態.選択鍵 = 申請鍵;
         f.画面.文字設定(欄, 申請鍵.right(8));
         f.画面.操作_フォーカス(f.画面(u"担当者コード"_qs));
         取込.push_back(ミリ秒(t));

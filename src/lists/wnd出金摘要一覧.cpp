@@ -1,4 +1,5 @@
 #include "lists/wnd出金摘要一覧.h"
+#include "lists/一覧部品名.h"
 
 #include <QDate>
 
@@ -10,6 +11,8 @@
 
 namespace {
 
+namespace 欄 = 一覧部品;
+
 constexpr const char16_t* 期間題[] = {u"直近３ヶ月", u"直近１年", u"直近３年", u"直近10年",
                                       u"全て"};
 
@@ -20,23 +23,23 @@ wnd出金摘要一覧::wnd出金摘要一覧(出金セッション& セッショ
     画面.Caption = u"出金摘要一覧"_qs;
     画面.Width = 6840;
     for (int i = 0; i < 5; ++i) {
-        部品& p = 画面(u"opb_期間"_qs, i);
+        部品& p = 画面(欄::opb_期間, i);
         p.Caption = QString::fromUtf16(期間題[i]);
         // The period is only stored; the next search uses it.
         p.Click = [this, &p, i] {
             if (p.Value) 期間 = i;
         };
     }
-    部品& 文字列 = 画面(u"検索文字列"_qs);
-    文字列.GotFocus = [this, &文字列] { s.入力中項目 = &文字列; };
-    文字列.Change = [this] { 画面(u"btn_複合検索"_qs).Enabled = true; };
+    部品& 文字列 = 画面(欄::検索文字列);
+    文字列.GotFocus = [this, &文字列] { 主.状態.入力中項目 = &文字列; };
+    文字列.Change = [this] { 画面(欄::btn_複合検索).Enabled = true; };
     文字列.LostFocus = [this, &文字列] {
         if (文字列.Text == 条件.value(u"検索文字列"_qs)) return;
         条件[u"検索文字列"_qs] = 文字列.Text;
         状態表示();
     };
-    検索ボタン(u"btn_複合検索"_qs, 0);
-    検索ボタン(u"btn_否定検索"_qs, -1);
+    検索ボタン(欄::btn_複合検索, 0);
+    検索ボタン(欄::btn_否定検索, -1);
     // Keys are made when a pick asks for one.
     一覧().鍵規則 = [this](const 一覧項目& 項) {
         if (方言() != u"A") return u"C"_qs + 項.Text;
@@ -47,8 +50,8 @@ wnd出金摘要一覧::wnd出金摘要一覧(出金セッション& セッショ
 }
 
 void wnd出金摘要一覧::状態表示() {
-    画面(u"検索文字列"_qs).Text = 条件.value(u"検索文字列"_qs);
-    for (int i = 0; i < 5; ++i) 画面(u"opb_期間"_qs, i).Value = i == 期間 ? 1 : 0;
+    画面(欄::検索文字列).Text = 条件.value(u"検索文字列"_qs);
+    for (int i = 0; i < 5; ++i) 画面(欄::opb_期間, i).Value = i == 期間 ? 1 : 0;
 }
 
 void wnd出金摘要一覧::読込() {

@@ -1,8 +1,15 @@
 #include "lists/wnd担当者一覧.h"
+#include "lists/一覧部品名.h"
 
 #include "dataenv/データ環境.h"
 #include "slip/出金セッション.h"
 #include "text/項目編集.h"
+
+namespace {
+
+namespace 欄 = 一覧部品;
+
+}  // namespace
 
 wnd担当者一覧::wnd担当者一覧(出金セッション& セッション, 画面モデル& 主画面)
     : wnd担当者一覧(セッション, 主画面, u"担当者"_qs) {}
@@ -32,20 +39,20 @@ wnd担当者一覧::wnd担当者一覧(出金セッション& セッション, �
             {u"在籍区分"_qs, u"在籍区分名称"_qs, u"SELECT * FROM K在籍区分 ORDER BY 区分"_qs},
             {u"社員区分"_qs, u"社員区分名称"_qs, u"SELECT * FROM K社員区分 ORDER BY 区分"_qs},
         });
-    検索ボタン(u"btn_コード検索"_qs, 1);
-    検索ボタン(u"btn_カナ検索"_qs, 2);
-    検索ボタン(u"btn_名称検索"_qs, 3);
-    検索ボタン(u"btn_部門コード検索"_qs, 4);
-    検索ボタン(u"btn_セクションコード検索"_qs, 5);
-    検索ボタン(u"btn_複合検索"_qs, 0);
-    検索ボタン(u"btn_否定検索"_qs, -1);
+    検索ボタン(欄::btn_コード検索, 1);
+    検索ボタン(欄::btn_カナ検索, 2);
+    検索ボタン(欄::btn_名称検索, 3);
+    検索ボタン(欄::btn_部門コード検索, 4);
+    検索ボタン(欄::btn_セクションコード検索, 5);
+    検索ボタン(欄::btn_複合検索, 0);
+    検索ボタン(欄::btn_否定検索, -1);
 }
 
 void wnd担当者一覧::読込() {
     区分一覧作成();
     // The list opens on the first status and on every class.
     区分[u"在籍区分"_qs] = 0;
-    区分[u"社員区分"_qs] = 画面(u"社員区分"_qs).Max;
+    区分[u"社員区分"_qs] = 画面(欄::社員区分).Max;
     一覧初期条件展開();
     列作成({{u"コード"_qs, 750},
             {u"氏名"_qs, 2500},

@@ -1,8 +1,11 @@
 #include "lists/wnd部門一覧.h"
+#include "lists/一覧部品名.h"
 
 #include <array>
 
 namespace {
+
+namespace 欄 = 一覧部品;
 
 using enum 部品種別;
 
@@ -17,7 +20,7 @@ constexpr std::array<部品定義, 7> 部門系(const char16_t* 題名, const ch
          .種別 = SSPanel,
          .題 = u"稼動状況",
          .位置 = {60, 600, 1080, 高}},
-        {.名前 = u"稼動状況区分",
+        {.名前 = 欄::稼動状況区分,
          .種別 = xNum,
          .位置 = {1200, 600, 420, 高},
          .順 = 0,
@@ -29,13 +32,13 @@ constexpr std::array<部品定義, 7> 部門系(const char16_t* 題名, const ch
          .位置 = {1680, 600, 2280, 高},
          .順 = 1,
          .停止 = true},
-        {.名前 = u"btn_画面クリア",
+        {.名前 = 欄::btn_画面クリア,
          .種別 = SSCommand,
          .題 = u"条件ｸﾘｱ",
          .位置 = {1200, 1020, 1320, 高},
          .順 = 2,
          .停止 = true},
-        {.名前 = u"btn_戻る",
+        {.名前 = 欄::btn_戻る,
          .種別 = SSCommand,
          .題 = u"戻る",
          .位置 = {2640, 1020, 1320, 高},

@@ -1,10 +1,17 @@
 #include "lists/一覧画面.h"
+#include "lists/一覧部品名.h"
 
 #include "dataenv/データ環境.h"
 #include "screen/次項目補正.h"
 #include "slip/出金セッション.h"
 #include "text/プラットフォーム.h"
 #include "text/項目編集.h"
+
+namespace {
+
+namespace 欄 = 一覧部品;
+
+}  // namespace
 
 一覧画面::一覧画面(出金セッション& s_, 画面モデル& 主画面, const QString& 名前, const 部品表& 表,
                    const QString& 一覧名)
@@ -25,8 +32,8 @@
     L.ColumnClick = [this](int 列番号) { 列見出しクリック(列番号); };
     // A key must not be purely numeric; it is made when a pick asks for it.
     L.鍵規則 = [](const 一覧項目& 項) { return u"C"_qs + 項.Text; };
-    画面(u"btn_戻る"_qs).Click = [this] { 戻る(); };
-    画面(u"btn_画面クリア"_qs).Click = [this] { 条件クリア(); };
+    画面(欄::btn_戻る).Click = [this] { 戻る(); };
+    画面(欄::btn_画面クリア).Click = [this] { 条件クリア(); };
 }
 
 部品& 一覧画面::一覧() {
@@ -63,8 +70,8 @@ void 一覧画面::区分句(検索文& 文, const QString& 番号, const QStrin
 }
 
 void 一覧画面::呼出条件句(検索文& 文) const {
-    if (!s.一覧条件文字列.trimmed().isEmpty()) {
-        文.加える(u" AND ("_qs + s.一覧条件文字列 + u")"_qs);
+    if (!主.状態.一覧.条件.trimmed().isEmpty()) {
+        文.加える(u" AND ("_qs + 主.状態.一覧.条件 + u")"_qs);
     }
 }
 
@@ -82,7 +89,7 @@ bool 一覧画面::文を開く(記録集合& rs, const QString& 文, bool 連�
     return 連携 ? d.連携DB検索(rs, 文) : d.業務DB検索(rs, 文);
 }
 
-void 一覧画面::検索ボタン(const QString& 名前, int 種別) {
+void 一覧画面::検索ボタン(部品名 名前, int 種別) {
     画面(名前).Click = [this, 種別] {
         検索種別 = 種別;
         一覧検索実行();
@@ -99,13 +106,13 @@ void 一覧画面::欄を結ぶ(QList<条件欄> 欄群, QList<区分欄> 区分
         if (e.種類 == 条件欄種類::名称) {
             // A looked-up name is not typed: the focus goes on to what follows.
             p.GotFocus = [this, &p] {
-                s.入力中項目 = &p;
-                s.一覧設定先名称項目 = 次項目補正(主, &p);
-                if (s.一覧設定先名称項目->所属 == &画面) 画面.SetFocus(*s.一覧設定先名称項目);
+                主.状態.入力中項目 = &p;
+                主.状態.一覧.名称先 = 次項目補正(主, &p);
+                if (主.状態.一覧.名称先->所属 == &画面) 画面.SetFocus(*主.状態.一覧.名称先);
             };
             continue;
         }
-        p.GotFocus = [this, &p] { s.入力中項目 = &p; };
+        p.GotFocus = [this, &p] { 主.状態.入力中項目 = &p; };
         p.LostFocus = [this, &p, 名前 = e.名前] {
             const 条件欄& 定 = *欄(名前);
             const QString 値 =
@@ -118,7 +125,7 @@ void 一覧画面::欄を結ぶ(QList<条件欄> 欄群, QList<区分欄> 区分
         };
         if (!e.入れ子画面.isEmpty()) {
             const auto 開く = [this, &p, 名前 = e.名前] {
-                if (s.入力中項目 == &p) 入れ子一覧(*欄(名前));
+                if (主.状態.入力中項目 == &p) 入れ子一覧(*欄(名前));
             };
             p.KeyDown = [開く](int キー) {
                 if (キー == 17) 開く();
@@ -129,8 +136,8 @@ void 一覧画面::欄を結ぶ(QList<条件欄> 欄群, QList<区分欄> 区分
     for (const 区分欄& k : 区分欄群) {
         部品& 番号 = 画面(k.番号);
         部品& 名称 = 画面(k.名称);
-        番号.GotFocus = [this, &番号] { s.入力中項目 = &番号; };
-        名称.GotFocus = [this, &名称] { s.入力中項目 = &名称; };
+        番号.GotFocus = [this, &番号] { 主.状態.入力中項目 = &番号; };
+        名称.GotFocus = [this, &名称] { 主.状態.入力中項目 = &名称; };
         番号.Change = [this, &番号, &名称] {
             const int i = 番号.Text.toInt();
             名称.ListIndex = i;
@@ -184,9 +191,9 @@ void 一覧画面::列作成(const QList<一覧列>& 列) {
 }
 
 QString 一覧画面::条件取出(const QString& 項目名) {
-    if (!s.一覧条件文字列.contains(項目名, Qt::CaseInsensitive)) return {};
-    const QString 元 = s.一覧条件文字列;
-    return 条件値取出(項目名, 元, s.一覧条件文字列);
+    if (!主.状態.一覧.条件.contains(項目名, Qt::CaseInsensitive)) return {};
+    const QString 元 = 主.状態.一覧.条件;
+    return 条件値取出(項目名, 元, 主.状態.一覧.条件);
 }
 
 void 一覧画面::コード取出(const QString& 欄名, const QString& 項目名) {
@@ -234,7 +241,7 @@ void 一覧画面::一覧検索実行() {
     }
     if (L.Sorted) L.並べ替え();
     // The limit is only told, never counted past.
-    if (部品* 注意 = 画面.探す(u"lab_注意"_qs)) 注意->Visible = 上限 > 0 && 件数 >= 上限;
+    if (部品* 注意 = 画面.探す(欄::lab_注意)) 注意->Visible = 上限 > 0 && 件数 >= 上限;
     検索ボタン状態更新();
 }
 
@@ -270,20 +277,20 @@ void 一覧画面::選ぶ() {
     if (L.選択 < 0 || L.選択 >= L.項目.size()) return;
     const 一覧項目 項 = L.項目.at(L.選択);
     // The number and description lists answer with the row's key, which outlives the close.
-    if (鍵を返す()) s.一覧条件文字列 = L.鍵(L.選択);
-    if (部品* 先 = s.一覧設定先項目) 先->所属->文字設定(*先, 項.Text);
+    if (鍵を返す()) 主.状態.選択鍵 = L.鍵(L.選択);
+    if (部品* 先 = 主.状態.一覧.設定先) 先->所属->文字設定(*先, 項.Text);
     閉じる();
-    if (!鍵を返す()) s.一覧条件文字列.clear();
-    if (s.一覧入れ子区分 == 1) {
-        d.基盤.画面使用可否(s.一覧呼出元画面, true);
-        焦点(s.一覧設定先項目);
-        焦点(s.一覧設定先名称項目);
+    主.状態.一覧.条件.clear();
+    if (主.状態.一覧.入れ子区分 == 1) {
+        d.基盤.画面使用可否(主.状態.一覧.呼出元画面, true);
+        焦点(主.状態.一覧.設定先);
+        焦点(主.状態.一覧.名称先);
         return;
     }
     d.基盤.画面使用可否(主.名前, true);
-    焦点(s.一覧設定先項目);
-    s.一覧設定先名称項目 = 次項目補正(主, s.一覧設定先名称項目);
-    焦点(s.一覧設定先名称項目);
+    焦点(主.状態.一覧.設定先);
+    主.状態.一覧.名称先 = 次項目補正(主, 主.状態.一覧.名称先);
+    焦点(主.状態.一覧.名称先);
 }
 
 void 一覧画面::戻る() {
@@ -296,9 +303,9 @@ void 一覧画面::枠で閉じた() {
 }
 
 void 一覧画面::呼出元へ戻す() {
-    d.基盤.画面使用可否(s.一覧入れ子区分 == 1 ? s.一覧呼出元画面 : 主.名前, true);
-    s.一覧条件文字列.clear();
-    焦点(s.一覧設定先項目);
+    d.基盤.画面使用可否(主.状態.一覧.入れ子区分 == 1 ? 主.状態.一覧.呼出元画面 : 主.名前, true);
+    主.状態.一覧.条件.clear();
+    焦点(主.状態.一覧.設定先);
 }
 
 void 一覧画面::閉じる() {
@@ -311,7 +318,7 @@ void 一覧画面::閉じる() {
 }
 
 void 一覧画面::条件クリア() {
-    s.一覧条件文字列.clear();
+    主.状態.一覧.条件.clear();
     検索種別 = 0;
     一覧初期条件展開();
     一覧条件表示();
@@ -320,22 +327,22 @@ void 一覧画面::条件クリア() {
 }
 
 void 一覧画面::入れ子一覧(const 条件欄& 欄) {
-    部品* 先 = s.一覧設定先項目;
-    部品* 名 = s.一覧設定先名称項目;
+    部品* 先 = 主.状態.一覧.設定先;
+    部品* 名 = 主.状態.一覧.名称先;
     // A window that is itself nested (the employee list over the trip list) stays so once its
     // own nested list is back; from the first level this leaves 0 and no caller, as always.
-    const short 元の区分 = s.一覧入れ子区分;
-    const QString 元の呼出元 = s.一覧呼出元画面;
-    s.一覧呼出元画面 = 画面.名前;
-    s.一覧入れ子区分 = 1;
+    const short 元の区分 = 主.状態.一覧.入れ子区分;
+    const QString 元の呼出元 = 主.状態.一覧.呼出元画面;
+    主.状態.一覧.呼出元画面 = 画面.名前;
+    主.状態.一覧.入れ子区分 = 1;
     d.基盤.画面使用可否(画面.名前, false);
-    s.一覧条件文字列.clear();
-    s.一覧設定先項目 = &画面(欄.名前);
-    s.一覧設定先名称項目 = &画面(欄.検索ボタン);
+    主.状態.一覧.条件.clear();
+    主.状態.一覧.設定先 = &画面(欄.名前);
+    主.状態.一覧.名称先 = &画面(欄.検索ボタン);
     d.基盤.画面表示(欄.入れ子画面, true);
-    s.一覧入れ子区分 = 元の区分;
-    s.一覧呼出元画面 = 元の呼出元;
-    s.一覧設定先項目 = 先;
-    s.一覧設定先名称項目 = 名;
-    s.入力中項目 = &画面(欄.名前);
+    主.状態.一覧.入れ子区分 = 元の区分;
+    主.状態.一覧.呼出元画面 = 元の呼出元;
+    主.状態.一覧.設定先 = 先;
+    主.状態.一覧.名称先 = 名;
+    主.状態.入力中項目 = &画面(欄.名前);
 }

@@ -103,7 +103,7 @@ class 一覧画面 {
     // The dialect of the database the search runs on.
     QString 方言() const;
     // A search button: sets its kind, searches, and leaves the focus on the list for Enter.
-    void 検索ボタン(const QString& 名前, int 種別);
+    void 検索ボタン(部品名 名前, int 種別);
 
     出金セッション& s;
     データ環境& d;

@@ -1,10 +1,13 @@
 #include <array>
 #include <cstddef>
+#include "lists/一覧部品名.h"
 
 #include "lists/wnd出張申請No一覧.h"
 #include "lists/wnd出金No一覧.h"
 
 namespace {
+
+namespace 欄 = 一覧部品;
 
 using enum 部品種別;
 
@@ -114,7 +117,7 @@ constexpr 番号一覧表 番号系(const 番号一覧の名& n) {
     右の釦(u"btn_否定検索", u"否検索", 1, 10);
     右の釦(u"btn_画面クリア", u"条件ｸﾘｱ", 2, 11);
     右の釦(u"btn_戻る", u"戻る", 3, 12);
-    加える({.名前 = u"lab_注意",
+    加える({.名前 = 欄::lab_注意,
             .種別 = xLabel,
             .題 = u"一回の検索で1000件までを表示します。",
             .位置 = {60, 行(4), 6000, 高}});

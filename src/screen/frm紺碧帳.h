@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <functional>
+#include <span>
 
 #include "screen/msgお待ち.h"
 #include "screen/msg印刷確認.h"
@@ -20,9 +21,31 @@ class frm紺碧帳 {
 
     出金セッション& s;
     画面モデル 画面{u"frm紺碧帳"_qs};
+    画面状態& 状態 = 画面.状態;
 
     bool 費目区分不正 = false;  // the last expense class typed was not a class
     bool 画面使用中 = false;    // a modal window of this screen is up
+
+    // What a commit redraws once it changed the slip.
+    struct 再表示 {
+        enum : unsigned {
+            行 = 1,
+            合計 = 2,
+            見出し = 4,
+            明細 = 8,
+            付属書類 = 16,
+            棒 = 32,
+            知らせ = 64
+        };
+    };
+    // A field's commit, bound to the field's lost focus: it reads the field into the slip and
+    // is true when the slip changed; what it redraws then stands beside it.
+    struct 確定定義 {
+        const char16_t* 名前;
+        bool (*確定)(frm紺碧帳& f, 部品& 欄);
+        unsigned 再表示;
+    };
+    static const std::span<const 確定定義> 確定表;
 
     // The dialogues of the register flow.
     msg印刷確認 印刷確認{s};
@@ -108,12 +131,21 @@ class frm紺碧帳 {
     void 摘要一覧(int 行);
 
   private:
+    static const 確定定義 確定一覧[];
     void 事象を結ぶ();
-    void 項目事象を結ぶ(部品& p);
-    void 明細事象を結ぶ();
+    void 項目事象を結ぶ(部品& p, const 確定定義* 確定);
     void 一覧を埋める();
-    void 見出し離脱(部品& p);
-    void 明細離脱(部品& p);
+    // The one path of every commit: a line's field only on the line in use and with no modal
+    // window up; then the commit, and what it redraws.
+    void 確定する(部品& p, const 確定定義& 定義);
+    void 描き直す(unsigned 何を, int 行);
+    // The header's fields as their commits read them: the text brought to its mask first, and
+    // written back to the field even when nothing changed.
+    QString 整える(部品& p, const QString& 文字列);
+    bool 日付欄確定(部品& p, int 部分);
+    bool 番号欄確定(部品& p);
+    bool コード欄確定(部品& p);
+    bool 出張申請欄確定(部品& p);
     void 行を写す(int 元, int 先);
     void ヘッド終了取得();
     void 頁1終了取得(int 行);
@@ -131,14 +163,4 @@ class frm紺碧帳 {
     void 新しい伝票へ();
     // The report program on the slip in memory, whether it is stored or not.
     void 帳票起動する(const QString& 出力区分);
-
-    // Writes to the controls without their events reading it back as input; a display inside
-    // another keeps the outer one's guard.
-    template <class F>
-    void 表示中(F&& 書く) {
-        const bool 外 = s.画面表示中フラグ;
-        s.画面表示中フラグ = true;
-        書く();
-        s.画面表示中フラグ = 外;
-    }
 };

@@ -4,10 +4,13 @@
 #include "dataenv/付属書類.h"
 #include "rules/番号設定.h"
 #include "screen/frm紺碧帳.h"
+#include "screen/frm紺碧帳_部品名.h"
 #include "slip/出金付属書類.h"
 #include "text/プラットフォーム.h"
 
 namespace {
+
+namespace 欄 = 紺碧帳部品;
 
 // The picker's filter, as all programs of the suite offer it.
 const QString 書類絞込 = u"全てのファイル (*.*)|*.*|"_qs + u"ワード (*.doc)|*.doc|"_qs +
@@ -21,19 +24,19 @@ const QString 書類絞込 = u"全てのファイル (*.*)|*.*|"_qs + u"ワー�
 
 QString frm紺碧帳::付属書類識別ID() {
     const QString 日付 =
-        画面(u"出金日付年"_qs).Text + 画面(u"出金日付月"_qs).Text + 画面(u"出金日付日"_qs).Text;
+        画面(欄::出金日付年).Text + 画面(欄::出金日付月).Text + 画面(欄::出金日付日).Text;
     return s.見出し.事業所コード +
            番号基準日付取得(s.データ, 番号定数::出金番号ID.toString(), 日付) +
-           画面(u"出金No"_qs).Text;
+           画面(欄::出金No).Text;
 }
 
 QString frm紺碧帳::選択中の付属書類() {
-    const 部品& 一覧 = 画面(u"List付属書類"_qs);
+    const 部品& 一覧 = 画面(欄::List付属書類);
     return 一覧.選択 >= 0 && 一覧.選択 < 一覧.項目.size() ? 一覧.項目[一覧.選択].Key : QString();
 }
 
 void frm紺碧帳::付属書類ファイル追加() {
-    if (s.画面表示中フラグ || 画面使用中) return;
+    if (画面使用中) return;
     データ環境& d = s.データ;
     const QString 識別 = 付属書類識別ID();
     // The picker may move the process's folder; it is put back whatever the answer.
@@ -48,7 +51,7 @@ void frm紺碧帳::付属書類ファイル追加() {
 }
 
 void frm紺碧帳::付属書類フォルダ追加() {
-    if (s.画面表示中フラグ || 画面使用中) return;
+    if (画面使用中) return;
     データ環境& d = s.データ;
     const QString 識別 = 付属書類識別ID();
     const QString 元 = QDir::currentPath();
@@ -64,7 +67,7 @@ void frm紺碧帳::付属書類フォルダ追加() {
 }
 
 void frm紺碧帳::付属書類を外す(const QString& Key) {
-    if (s.画面表示中フラグ || 画面使用中 || Key.isEmpty()) return;
+    if (画面使用中 || Key.isEmpty()) return;
     データ環境& d = s.データ;
     メッセージ指定 問い;
     問い.本文 = u"付属書類から削除しますか？"_qs;
@@ -83,7 +86,7 @@ void frm紺碧帳::付属書類を外す(const QString& Key) {
         // The row goes first: a copy that cannot be deleted stays behind unseen.
         if (付属書類削除(d, 出金情報名, 識別, SEQNo)) {
             // The notice is painted by the removal, once the window takes no more input.
-            部品& 知らせ = 画面(u"お知らせ"_qs);
+            部品& 知らせ = 画面(欄::お知らせ);
             知らせ.Caption = u"＊＊削除中です。しばらくお待ちください＊＊"_qs;
             付属書類実体削除(d, 付属書類名前(書類名), 保存名(出金情報名, 識別, SEQNo));
             知らせ.Caption.clear();
@@ -107,12 +110,12 @@ void frm紺碧帳::付属書類を開く(const QString& Key) {
 }
 
 void frm紺碧帳::付属書類listint() {
-    表示中([this] {
-        部品& 一覧 = 画面(u"List付属書類"_qs);
+    画面.表示([this] {
+        部品& 一覧 = 画面(欄::List付属書類);
         一覧.列 = {{u"書類名"_qs, 4200}, {u"サイズ"_qs, 1600, true}, {u"更新日付"_qs, 1700}};
         一覧.項目クリア();
         // The documents of the slip on screen, once it has a number.
-        if (画面(u"出金No"_qs).Text.isEmpty()) return;
+        if (画面(欄::出金No).Text.isEmpty()) return;
         for (const 付属書類行& 行 : 付属書類一覧(s.データ, 出金情報名, 付属書類識別ID())) {
             一覧.項目追加({行.タイトル, 行.Key, {行.サイズ, 行.更新日付}});
         }
@@ -122,8 +125,8 @@ void frm紺碧帳::付属書類listint() {
 
 void frm紺碧帳::付属書類ボタン更新() {
     const bool 保存済み = !s.新規情報フラグ;
-    画面(u"btn_付属書類追加"_qs).Enabled = 保存済み;
-    画面(u"btn_フォルダ"_qs).Enabled = 保存済み;
-    画面(u"btn_付属書類削除"_qs).Enabled =
+    画面(欄::btn_付属書類追加).Enabled = 保存済み;
+    画面(欄::btn_フォルダ).Enabled = 保存済み;
+    画面(欄::btn_付属書類削除).Enabled =
         保存済み && 付属書類有無(s.データ, 出金情報名, 付属書類識別ID());
 }

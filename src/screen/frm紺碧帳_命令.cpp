@@ -19,7 +19,7 @@ const QString 入力あり = u"入力がありました。"_qs;
 }  // namespace
 
 void frm紺碧帳::削除() {
-    if (s.画面表示中フラグ || 画面使用中) return;
+    if (画面使用中) return;
     if (!書込権限確認(3)) return;
     // No is the default: a deletion is never the quiet answer.
     if (!問う(s.データ.基盤, s.削除確認文言(), 2)) {
@@ -34,7 +34,7 @@ void frm紺碧帳::削除() {
 }
 
 void frm紺碧帳::画面クリア() {
-    if (s.画面表示中フラグ || 画面使用中) return;
+    if (画面使用中) return;
     if (s.入力変更フラグ && !問う(s.データ.基盤, 入力あり + u"\r"_qs + u"クリアしますか？"_qs)) {
         離脱項目へ();
         return;
@@ -42,11 +42,11 @@ void frm紺碧帳::画面クリア() {
     s.出金情報初期化();
     画面全表示();
     詳細初期化();
-    if (s.先頭入力項目) 画面.SetFocus(*s.先頭入力項目);
+    if (状態.先頭入力項目) 画面.SetFocus(*状態.先頭入力項目);
 }
 
 void frm紺碧帳::隣へ(bool 前) {
-    if (s.画面表示中フラグ || 画面使用中) return;
+    if (画面使用中) return;
     // Whether there is a neighbour is asked first, so nothing is asked when there is none.
     const bool ある = 前 ? s.前No確認() : s.次No確認();
     const QString 問い =
@@ -63,11 +63,11 @@ void frm紺碧帳::隣へ(bool 前) {
     }
     画面全表示();
     スクロール更新();
-    if (s.先頭入力項目) 画面.SetFocus(*s.先頭入力項目);
+    if (状態.先頭入力項目) 画面.SetFocus(*状態.先頭入力項目);
 }
 
 void frm紺碧帳::帳票(const QString& 出力区分) {
-    if (s.画面表示中フラグ || 画面使用中) return;
+    if (画面使用中) return;
     データ環境& d = s.データ;
     const short 区分 = 出力区分 == u"0" ? 4 : 出力区分 == u"1" ? 5 : 7;
     const QString 問い = 出力区分 == u"0"   ? u"印刷しますか?"_qs

@@ -4,7 +4,7 @@
 #include "text/プラットフォーム.h"
 
 void frm紺碧帳::離脱項目へ() {
-    if (s.離脱項目) 画面.SetFocus(*s.離脱項目);
+    if (状態.離脱項目) 画面.SetFocus(*状態.離脱項目);
 }
 
 bool frm紺碧帳::書込権限確認(short 操作区分) {
@@ -40,7 +40,7 @@ void frm紺碧帳::新しい伝票へ() {
         終了確認(取消);
         return;
     }
-    if (s.先頭入力項目) 画面.SetFocus(*s.先頭入力項目);
+    if (状態.先頭入力項目) 画面.SetFocus(*状態.先頭入力項目);
 }
 
 void frm紺碧帳::登録処理() {

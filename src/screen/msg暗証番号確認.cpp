@@ -1,7 +1,14 @@
 #include "screen/msg暗証番号確認.h"
+#include "screen/msg暗証番号確認_部品名.h"
 
 #include "text/プラットフォーム.h"
 #include "text/数値書式.h"
+
+namespace {
+
+namespace 欄 = 暗証番号確認部品;
+
+}  // namespace
 
 msg暗証番号確認::msg暗証番号確認(データ環境& データ) : d(データ) {
     画面.作る(部品定義表);
@@ -18,14 +25,14 @@ void msg暗証番号確認::事象を結ぶ() {
         部品* 先 = 画面.探す(QString::fromUtf16(p->定義.結び));
         p->Click = [this, 先] { 画面.SetFocus(*先); };
     }
-    画面(u"担当者コード"_qs).LostFocus = [this] { 担当者コード離脱(); };
-    画面(u"暗証番号"_qs).GotFocus = [this] {
+    画面(欄::担当者コード).LostFocus = [this] { 担当者コード離脱(); };
+    画面(欄::暗証番号).GotFocus = [this] {
         // A PIN means nothing without somebody it belongs to.
-        部品& コード = 画面(u"担当者コード"_qs);
+        部品& コード = 画面(欄::担当者コード);
         if (コード.Text.trimmed().isEmpty()) 画面.SetFocus(コード);
     };
-    画面(u"btn_OK"_qs).Click = [this] { 暗証照合(); };
-    画面(u"btn_キャンセル"_qs).Click = [this] { 取消(); };
+    画面(欄::btn_OK).Click = [this] { 暗証照合(); };
+    画面(欄::btn_キャンセル).Click = [this] { 取消(); };
 }
 
 void msg暗証番号確認::画面読込() {
@@ -36,14 +43,14 @@ void msg暗証番号確認::画面読込() {
     照合暗証.clear();
     d.操作者.担当者コード.clear();
     // The user known by his login name goes straight to the PIN.
-    部品& コード = 画面(u"担当者コード"_qs);
+    部品& コード = 画面(欄::担当者コード);
     コード.TabStop = true;
     if (担当者読込ID(d.環境.端末利用者名)) コード.TabStop = false;
     if (部品* 先 = 画面.次のタブ(nullptr, false)) 画面.SetFocus(*先);
 }
 
 void msg暗証番号確認::担当者コード離脱() {
-    部品& コード = 画面(u"担当者コード"_qs);
+    部品& コード = 画面(欄::担当者コード);
     コード.Text = 書式(コード.Text, u"00000");
     担当者読込(コード.Text);
 }
@@ -62,8 +69,8 @@ bool msg暗証番号確認::担当者読込(const QString& コード) {
     記録集合 rs;
     const bool 発見 = 担当者検索(rs, u" WHERE M担当者.コード = '"_qs + コード + u"'"_qs);
     if (発見) {
-        画面(u"担当者コード"_qs).Text = rs.文字列(u"コード"_qs);
-        画面(u"担当者名"_qs).Text = rs.文字列(u"氏名"_qs);
+        画面(欄::担当者コード).Text = rs.文字列(u"コード"_qs);
+        画面(欄::担当者名).Text = rs.文字列(u"氏名"_qs);
         照合暗証 = d.暗証解読->解読(rs.文字列(u"暗証番号"_qs));
         auto& o = d.操作者;
         o.ログインID = rs.文字列(u"ログインID"_qs);
@@ -84,8 +91,8 @@ bool msg暗証番号確認::担当者読込ID(const QString& ログインID) {
     QString コード;
     if (発見) {
         コード = rs.文字列(u"コード"_qs);
-        画面(u"担当者コード"_qs).Text = コード;
-        画面(u"担当者名"_qs).Text = rs.文字列(u"氏名"_qs);
+        画面(欄::担当者コード).Text = コード;
+        画面(欄::担当者名).Text = rs.文字列(u"氏名"_qs);
     }
     rs.閉じる();
     if (発見) 担当者読込(コード);
@@ -96,12 +103,12 @@ void msg暗証番号確認::不一致(const QString& 文言) {
     d.操作者.担当者コード.clear();
     d.権限確認済 = false;
     d.基盤.メッセージ(文言);
-    画面.SetFocus(画面(u"暗証番号"_qs));
+    画面.SetFocus(画面(欄::暗証番号));
 }
 
 void msg暗証番号確認::暗証照合() {
     // Only the entry is raised: a stored PIN with lower-case letters never matches.
-    const QString 入力 = 画面(u"暗証番号"_qs).Text.toUpper();
+    const QString 入力 = 画面(欄::暗証番号).Text.toUpper();
     if (入力.isEmpty()) {
         不一致(u"暗証番号を入力してください。"_qs);
         return;
@@ -111,7 +118,7 @@ void msg暗証番号確認::暗証照合() {
         不一致(u"暗証番号が違います。"_qs);
         return;
     }
-    d.操作者.担当者コード = 画面(u"担当者コード"_qs).Text;
+    d.操作者.担当者コード = 画面(欄::担当者コード).Text;
     d.操作者確定();
     d.権限確認済 = true;
     d.基盤.画面終了(画面.名前);

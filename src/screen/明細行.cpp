@@ -2,12 +2,15 @@
 
 #include "rules/消費税計算.h"
 #include "screen/frm紺碧帳.h"
+#include "screen/frm紺碧帳_部品名.h"
 #include "text/プラットフォーム.h"
 #include "text/実行時エラー.h"
 #include "text/数値変換.h"
 #include "text/数値書式.h"
 
 namespace {
+
+namespace 欄 = 紺碧帳部品;
 
 // No line of a disbursement slip is ever allocated elsewhere, so the guard always lets go.
 bool 引当済み(const 出金行&) {
@@ -37,63 +40,6 @@ bool 税額欄確定(出金セッション& s, const T& 現在, const T& 新, F&
 }
 
 }  // namespace
-
-void frm紺碧帳::明細事象を結ぶ() {
-    // The lists and the check box change without the focus leaving them.
-    for (int r = 0; r < 表示行数; ++r) {
-        for (const char16_t* 名 : {u"費目区分名称", u"内税外税区分名称", u"chb_課税事業所区分"}) {
-            部品& p = 画面(QString::fromUtf16(名), r);
-            p.Click = [this, &p] { 明細離脱(p); };
-        }
-    }
-}
-
-void frm紺碧帳::明細離脱(部品& p) {
-    if (s.画面表示中フラグ || 画面使用中) return;
-    const int r = p.添字;
-    if (r < 0) return;
-    if (r != s.表示行) {
-        // A list or check box shows its line's value again when the line refuses the change.
-        if (p.種別 == 部品種別::ComboBox || p.種別 == 部品種別::CheckBox) {
-            明細行表示(s.先頭行 + r, r);
-        }
-        return;
-    }
-    {
-        const QString& 名 = p.名前;
-        enum { 行と合計, 行だけ, なし } 再表示 = 行と合計;
-        bool 変更 = false;
-        if (名 == u"費目区分") {
-            変更 = 費目区分確定(r, 小整数値(p.Text));
-        } else if (名 == u"費目区分名称") {
-            変更 = 費目区分確定(r, p.ListIndex < 0 ? 0 : p.ListIndex + 1);
-        } else if (名 == u"内税外税区分") {
-            変更 = 内税外税区分確定(r, 小整数値(p.Text));
-        } else if (名 == u"内税外税区分名称") {
-            // A list without a selection names no class.
-            if (p.ListIndex >= 0) 変更 = 内税外税区分確定(r, p.ListIndex);
-        } else if (名 == u"消費税率") {
-            変更 = 消費税率確定(r, 金額::表示文字列から(p.Text));
-        } else if (名 == u"出金金額") {
-            変更 = 出金金額確定(r, 金額::表示文字列から(p.Text));
-        } else if (名 == u"出金消費税") {
-            変更 = 出金消費税確定(r, 金額::表示文字列から(p.Text));
-        } else if (名 == u"支払先") {
-            変更 = 支払先確定(r, p.Text);
-            再表示 = 行だけ;
-        } else if (名 == u"chb_課税事業所区分") {
-            変更 = 課税事業所区分確定(r, p.Value);
-            再表示 = 行だけ;
-        } else if (名 == u"摘要") {
-            変更 = 摘要確定(r, p.Text);
-            再表示 = なし;
-        }
-        if (!変更) return;
-        if (再表示 != なし) 明細行表示(s.先頭行 + r, r);
-        if (再表示 == 行と合計) 合計表示();
-        画面(u"お知らせ"_qs).Caption = s.お知らせ文言;
-    }
-}
 
 bool frm紺碧帳::費目区分確定(int 行, int 区分) {
     出金行& l = s.行[s.先頭行 + 行];
@@ -167,7 +113,7 @@ bool frm紺碧帳::摘要確定(int 行, const QString& 文字列) {
 }
 
 void frm紺碧帳::明細行表示(int 明細, int 行) {
-    表示中([&] {
+    画面.表示([&] {
         const 出金行 空欄{};
         // The lines in use, and the blank row after them while the slip is not full: a line of
         // the spare slot is shown only when an import put it there.
@@ -177,29 +123,29 @@ void frm紺碧帳::明細行表示(int 明細, int 行) {
         const bool 空 = 表示欄が空(l);
         auto 数 = [空](const 金額& 値) { return 空 ? QString() : 値.文字列(); };
 
-        画面(u"費目区分"_qs, 行).Text = 空 ? QString() : QString::number(l.費目区分);
-        画面(u"内税外税区分"_qs, 行).Text = 空 ? QString() : QString::number(l.内税外税区分);
-        画面(u"消費税率"_qs, 行).Text = 数(l.消費税率);
-        画面(u"出金金額"_qs, 行).Text = 数(l.出金金額);
-        部品& 税 = 画面(u"出金消費税"_qs, 行);
+        画面(欄::費目区分, 行).Text = 空 ? QString() : QString::number(l.費目区分);
+        画面(欄::内税外税区分, 行).Text = 空 ? QString() : QString::number(l.内税外税区分);
+        画面(欄::消費税率, 行).Text = 数(l.消費税率);
+        画面(欄::出金金額, 行).Text = 数(l.出金金額);
+        部品& 税 = 画面(欄::出金消費税, 行);
         税.Text = 数(l.出金消費税);
         // An inclusive tax stands out in its own colour.
         税.ForeColor = !空 && l.内税外税区分 == 2 ? 0x8080FF : -1;
-        画面(u"支払先"_qs, 行).Text = l.支払先;
-        画面(u"摘要"_qs, 行).Text = l.摘要;
-        画面(u"chb_課税事業所区分"_qs, 行).Value = l.課税事業所区分;
+        画面(欄::支払先, 行).Text = l.支払先;
+        画面(欄::摘要, 行).Text = l.摘要;
+        画面(欄::chb_課税事業所区分, 行).Value = l.課税事業所区分;
 
-        部品& 費目名 = 画面(u"費目区分名称"_qs, 行);
+        部品& 費目名 = 画面(欄::費目区分名称, 行);
         費目名.ListIndex = 空 ? -1 : 一覧位置(l.費目区分 - 1, 費目名);
         費目名.Text = 費目名.一覧.value(費目名.ListIndex);
-        部品& 内外名 = 画面(u"内税外税区分名称"_qs, 行);
+        部品& 内外名 = 画面(欄::内税外税区分名称, 行);
         内外名.ListIndex = 空 ? -1 : 一覧位置(l.内税外税区分, 内外名);
         内外名.Text = 内外名.一覧.value(内外名.ListIndex);
 
         // Lines with a class, and the first empty line after them, may choose from the lists;
         // the top row only once a staff member is there.
         bool 開く = 範囲内 && (l.費目区分 != 0 || 明細 == s.最終行 + 1);
-        if (行 == 0 && 数値変換(画面(u"担当者コード"_qs).Text) == 0) 開く = false;
+        if (行 == 0 && 数値変換(画面(欄::担当者コード).Text) == 0) 開く = false;
         費目名.Enabled = 開く;
         内外名.Enabled = 開く;
     });
@@ -253,7 +199,7 @@ void frm紺碧帳::行クリア() {
         合計表示();
         スクロール更新();
     }
-    画面.SetFocus(画面(u"費目区分"_qs, s.表示行));
+    画面.SetFocus(画面(欄::費目区分, s.表示行));
 }
 
 void frm紺碧帳::行挿入() {
@@ -266,7 +212,7 @@ void frm紺碧帳::行挿入() {
         合計表示();
         スクロール更新();
     }
-    画面.SetFocus(画面(u"費目区分"_qs, s.表示行));
+    画面.SetFocus(画面(欄::費目区分, s.表示行));
 }
 
 void frm紺碧帳::行複写() {
@@ -286,26 +232,27 @@ void frm紺碧帳::行複写() {
         明細表示();
         合計表示();
     }
-    画面.SetFocus(画面(u"費目区分"_qs, s.表示行));
+    画面.SetFocus(画面(欄::費目区分, s.表示行));
 }
 
 void frm紺碧帳::摘要一覧(int 行) {
-    if (s.画面表示中フラグ || 画面使用中) return;
-    s.入力中項目 = 画面.フォーカス();
+    if (画面使用中) return;
+    状態.入力中項目 = 画面.フォーカス();
     if (入力順序確認(2, 行, u"費目区分"_qs, 1)) return;
     auto& 基盤 = s.データ.基盤;
-    基盤.画面使用可否(u"frm紺碧帳"_qs, false);
-    s.一覧条件文字列 = 画面(u"摘要"_qs, 行).Text;
-    s.一覧設定先項目 = &画面(u"費目区分"_qs, 行);
-    s.一覧設定先名称項目 = &画面(u"摘要"_qs, 行);
+    基盤.画面使用可否(画面.名前, false);
+    状態.一覧.条件 = 画面(欄::摘要, 行).Text;
+    状態.一覧.設定先 = &画面(欄::費目区分, 行);
+    状態.一覧.名称先 = &画面(欄::摘要, 行);
+    状態.選択鍵.reset();
     画面使用中 = true;
     基盤.画面表示(u"wnd出金摘要一覧"_qs, true);
     画面使用中 = false;
-    // A pick leaves the chosen line's key behind: "C", office, base date, number, line id.
-    if (s.一覧条件文字列.isEmpty()) return;
+    // A pick answers with the chosen line's key: "C", office, base date, number, line id.
+    if (!状態.選択鍵) return;
+    const QString 鍵 = *状態.選択鍵;
+    状態.選択鍵.reset();
     const int 明細 = s.先頭行 + 行;
-    {
-        s.過去明細取込(s.一覧条件文字列.mid(1), 明細);
-        明細行表示(明細, 行);
-    }
+    s.過去明細取込(鍵.mid(1), 明細);
+    明細行表示(明細, 行);
 }

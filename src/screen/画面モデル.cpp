@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "screen/焦点記録.h"
+
 void 画面モデル::作る(const 部品表& 表) {
     for (const 部品定義& d : 表.行) {
         if (d.配列 == 0) {
@@ -43,6 +45,7 @@ void 画面モデル::作る(const 部品表& 表) {
     p->MaxLength = 定義.長さ;
     p->Min = 定義.最小;
     p->Max = 定義.最大;
+    索引.insert({p->名前, 添字}, p.get());
     部品群.push_back(std::move(p));
     return *部品群.back();
 }
@@ -52,15 +55,14 @@ void 画面モデル::作る(const 部品表& 表) {
     d.種別 = 種別;
     d.停止 = 種別 != 部品種別::xLabel && 種別 != 部品種別::SSPanel;
     部品& p = 追加(d, 添字);
+    索引.remove({p.名前, 添字});
     p.名前 = 名前_;
+    索引.insert({p.名前, 添字}, &p);
     return p;
 }
 
 部品* 画面モデル::探す(const QString& 名前_, int 添字) {
-    for (auto& p : 部品群) {
-        if (p->名前 == 名前_ && p->添字 == 添字) return p.get();
-    }
-    return nullptr;
+    return 索引.value({名前_, 添字}, nullptr);
 }
 
 const 部品* 画面モデル::探す(const QString& 名前_, int 添字) const {
@@ -96,12 +98,32 @@ bool 画面モデル::焦点可(const 部品& p) const {
 }
 
 void 画面モデル::SetFocus(部品& 先) {
-    待ち.enqueue(&先);
+    if (!焦点記録::有効()) {
+        待つ(&先, {});
+    } else if (!事象中.isEmpty()) {
+        待つ(&先, u"規則 "_qs + 事象中);
+    } else {
+        待つ(&先, 操作原因.isEmpty() ? u"コード"_qs : 操作原因);
+    }
     待ちを処理();
 }
 
-void 画面モデル::呼ぶ(const std::function<void()>& 事象) {
+void 画面モデル::待つ(部品* 先, const QString& 理由) {
+    待ち.enqueue({先, 理由});
+}
+
+void 画面モデル::呼ぶ(const 部品* 元, const char16_t* 事象名, const std::function<void()>& 事象) {
     if (!事象) return;
+    if (表示中 && !(元 && 元->表示中も受ける)) return;
+    const QString 外 = 事象中;
+    if (焦点記録::有効()) {
+        事象中 = (元 ? 元->表記() + u'.' : QString()) + QString::fromUtf16(事象名);
+    }
+    struct 戻す {
+        QString& 先;
+        QString 値;
+        ~戻す() { 先 = 値; }
+    } 終わり{事象中, 外};
     if (!異常時) {
         事象();
         return;
@@ -109,16 +131,22 @@ void 画面モデル::呼ぶ(const std::function<void()>& 事象) {
     try {
         事象();
     } catch (const std::exception& e) {
+        // The display the error broke off is over: the screen listens again.
+        表示中 = false;
         異常時(e);
     }
 }
 
-void 画面モデル::移す(部品* 先) {
+void 画面モデル::移す(部品* 先, const QString& 理由) {
     if (!先 || 先 == 現在 || !焦点可(*先)) return;
     部品* 元 = 現在;
     現在 = 先;
-    if (元) 呼ぶ(元->LostFocus);
-    呼ぶ(先->GotFocus);
+    if (焦点記録::有効()) {
+        焦点記録::書く(名前 + u' ' + (元 ? 元->表記() : u"-"_qs) + u" -> "_qs + 先->表記() +
+                       u" ["_qs + 理由 + u']');
+    }
+    if (元) 呼ぶ(元, u"LostFocus", 元->LostFocus);
+    呼ぶ(先, u"GotFocus", 先->GotFocus);
 }
 
 // Delivers the queued focus moves one after another; a move queued while another is being
@@ -137,14 +165,15 @@ void 画面モデル::待ちを処理() {
     int 安全弁 = 0;
     while (++安全弁 < 1000) {
         if (!待ち.isEmpty()) {
-            移す(待ち.dequeue());
+            const 焦点移動 m = 待ち.dequeue();
+            移す(m.先, m.理由);
             continue;
         }
         // A control disabled or hidden while it held the focus hands it on in tab order, as the
         // window system moves it; no key could reach it where it stands.
         部品* 次 = 現在 && !焦点可(*現在) ? 次のタブ(現在, false) : nullptr;
         if (!次) break;
-        待ち.enqueue(次);
+        待つ(次, u"無効になった欄から次へ"_qs);
     }
 }
 
@@ -160,24 +189,31 @@ void 画面モデル::値を変える(部品& 先, int 値) {
 void 画面モデル::値設定(部品& 先, int 値) {
     const int 前 = 先.Value;
     値を変える(先, 値);
-    if (先.Value != 前) 呼ぶ(先.Change);
+    if (先.Value != 前) 呼ぶ(&先, u"Change", 先.Change);
     待ちを処理();
 }
 
 void 画面モデル::文字設定(部品& 先, const QString& 文字列) {
     if (先.Text == 文字列) return;
     先.Text = 文字列;
-    呼ぶ(先.Change);
+    呼ぶ(&先, u"Change", 先.Change);
     待ちを処理();
 }
 
 void 画面モデル::操作_フォーカス(部品& 先) {
-    待ち.enqueue(&先);
+    操作で移す(先, u"フォーカス"_qs);
+}
+
+void 画面モデル::操作で移す(部品& 先, const QString& 原因) {
+    const QString 外 = 操作原因;
+    if (焦点記録::有効()) 操作原因 = 原因;
+    待つ(&先, 操作原因);
     待ちを処理();
+    操作原因 = 外;
 }
 
 void 画面モデル::操作_入力(部品& 先, const QString& 文字列) {
-    if (現在 != &先) 操作_フォーカス(先);
+    if (現在 != &先) 操作で移す(先, u"入力"_qs);
     if (現在 != &先) return;  // the guard sent the focus elsewhere: the keys land there
     // Key by key, as typed over the whole field: a key the field does not take is lost, and a
     // full field takes no more.
@@ -186,7 +222,7 @@ void 画面モデル::操作_入力(部品& 先, const QString& 文字列) {
         if (先.入力可(値 + c)) 値 += c;
     }
     先.Text = 値;
-    呼ぶ(先.Change);
+    呼ぶ(&先, u"Change", 先.Change);
     待ちを処理();
 }
 
@@ -212,21 +248,21 @@ void 画面モデル::操作_入力(部品& 先, const QString& 文字列) {
 }
 
 void 画面モデル::操作_Tab() {
-    if (部品* p = 次のタブ(現在, false)) 操作_フォーカス(*p);
+    if (部品* p = 次のタブ(現在, false)) 操作で移す(*p, u"Tab"_qs);
 }
 
 void 画面モデル::操作_ShiftTab() {
-    if (部品* p = 次のタブ(現在, true)) 操作_フォーカス(*p);
+    if (部品* p = 次のタブ(現在, true)) 操作で移す(*p, u"Shift+Tab"_qs);
 }
 
 void 画面モデル::操作_クリック(部品& 先) {
     if (!先.Enabled || !見えるか(先)) return;
     // The mouse press gives the focus before the click runs, tab stop or not.
-    if (焦点可(先)) 操作_フォーカス(先);
+    if (焦点可(先)) 操作で移す(先, u"クリック"_qs);
     if (先.種別 == 部品種別::CheckBox) {
         if (現在 != &先) return;
         先.Value = 先.Value ? 0 : 1;
-        呼ぶ(先.Change);
+        呼ぶ(&先, u"Change", 先.Change);
     }
     if (先.種別 == 部品種別::OptionButton) {
         if (現在 != &先) return;
@@ -235,14 +271,14 @@ void 画面モデル::操作_クリック(部品& 先) {
         }
         先.Value = 1;
     }
-    呼ぶ(先.Click);
+    呼ぶ(&先, u"Click", 先.Click);
     待ちを処理();
 }
 
 void 画面モデル::操作_ダブルクリック(部品& 先) {
     if (!先.Enabled || !見えるか(先)) return;
-    if (現在 != &先 && 焦点可(先)) 操作_フォーカス(先);
-    呼ぶ(先.DblClick);
+    if (現在 != &先 && 焦点可(先)) 操作で移す(先, u"ダブルクリック"_qs);
+    呼ぶ(&先, u"DblClick", 先.DblClick);
     待ちを処理();
 }
 
@@ -274,10 +310,14 @@ int 移動先(const 部品& p, int キーコード) {
 }  // namespace
 
 void 画面モデル::操作_キー(部品& 先, int キーコード) {
-    if (現在 != &先) 操作_フォーカス(先);
+    const QString 鍵 = u"キー "_qs + QString::number(キーコード);
+    if (現在 != &先) 操作で移す(先, 鍵);
+    const QString 外 = 操作原因;
+    if (焦点記録::有効()) 操作原因 = 鍵;
     bool 済 = false;
-    if (KeyPreview) 呼ぶ([&] { 済 = KeyPreview(キーコード); });
-    if (!済 && 先.KeyDown) 呼ぶ([&] { 先.KeyDown(キーコード); });
+    if (KeyPreview) 呼ぶ(nullptr, u"KeyPreview", [&] { 済 = KeyPreview(キーコード); });
+    if (!済 && 先.KeyDown) 呼ぶ(&先, u"KeyDown", [&] { 先.KeyDown(キーコード); });
+    操作原因 = 外;
     if (!済 && 先.種別 == 部品種別::ListView && 現在 == &先 && !先.項目.isEmpty()) {
         先.選択 = 移動先(先, キーコード);
     }
@@ -286,29 +326,29 @@ void 画面モデル::操作_キー(部品& 先, int キーコード) {
 
 void 画面モデル::操作_項目選択(部品& 先, int 行) {
     if (!先.Enabled || !見えるか(先)) return;
-    if (現在 != &先 && 焦点可(先)) 操作_フォーカス(先);
+    if (現在 != &先 && 焦点可(先)) 操作で移す(先, u"クリック"_qs);
     if (現在 != &先 || 行 < 0 || 行 >= 先.項目.size()) return;
     先.選択 = 行;
-    呼ぶ(先.Click);
+    呼ぶ(&先, u"Click", 先.Click);
     待ちを処理();
 }
 
 void 画面モデル::操作_項目ダブルクリック(部品& 先, int 行) {
     操作_項目選択(先, 行);
     if (現在 != &先 || 先.選択 != 行) return;
-    呼ぶ(先.DblClick);
+    呼ぶ(&先, u"DblClick", 先.DblClick);
     待ちを処理();
 }
 
 void 画面モデル::操作_列クリック(部品& 先, int 列番号) {
     if (!先.Enabled || !見えるか(先) || 列番号 < 0 || 列番号 >= 先.列.size()) return;
-    if (先.ColumnClick) 呼ぶ([&] { 先.ColumnClick(列番号 + 1); });
+    if (先.ColumnClick) 呼ぶ(&先, u"ColumnClick", [&] { 先.ColumnClick(列番号 + 1); });
     待ちを処理();
 }
 
 void 画面モデル::操作_値変更(部品& 先, int 値) {
     if (!先.Enabled || !見えるか(先)) return;
-    if (現在 != &先) 操作_フォーカス(先);
+    if (現在 != &先) 操作で移す(先, u"値変更"_qs);
     const bool 選択 = 先.種別 == 部品種別::ComboBox || 先.種別 == 部品種別::CheckBox;
     if (選択 && 現在 != &先) return;
     const int 前 = 先.種別 == 部品種別::ComboBox ? 先.ListIndex : 先.Value;
@@ -318,7 +358,7 @@ void 画面モデル::操作_値変更(部品& 先, int 値) {
         待ちを処理();
         return;
     }
-    呼ぶ(先.Change);
-    呼ぶ(先.Click);
+    呼ぶ(&先, u"Change", 先.Change);
+    呼ぶ(&先, u"Click", 先.Click);
     待ちを処理();
 }

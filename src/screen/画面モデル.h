@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QQueue>
 #include <QString>
@@ -9,7 +10,9 @@
 #include <span>
 #include <vector>
 
+#include "screen/画面状態.h"
 #include "screen/部品.h"
+#include "screen/部品名.h"
 
 // A window's control table and the spacing of its control arrays.
 struct 部品表 {
@@ -30,12 +33,19 @@ class 画面モデル {
 
     const QString 名前;
     QString Caption;
+    // Where the focus was and goes, and the hand-over to the list windows over this screen.
+    画面状態 状態;
     int Width = 0, Height = 0;
 
     // Makes every control of the table, in its order.
     void 作る(const 部品表& 表);
     部品& 追加(const 部品定義& 定義, int 添字 = -1);
     部品& 追加(const QString& 名前, 部品種別 種別, int 添字 = -1);
+    // A control by the constant of its name; a text of a name (a table's link, a list's
+    // condition field) finds it the same way, by a hash of name and index.
+    部品* 探す(部品名 名前, int 添字 = -1) { return 探す(名前.文字列(), 添字); }
+    const 部品* 探す(部品名 名前, int 添字 = -1) const { return 探す(名前.文字列(), 添字); }
+    部品& operator()(部品名 名前, int 添字 = -1) { return (*this)(名前.文字列(), 添字); }
     部品* 探す(const QString& 名前, int 添字 = -1);
     const 部品* 探す(const QString& 名前, int 添字 = -1) const;
     部品& operator()(const QString& 名前, int 添字 = -1);
@@ -86,17 +96,42 @@ class 画面モデル {
     // The window's own look at every key before its control; true when it dealt with the key.
     std::function<bool(int)> KeyPreview;
 
+    // Writes to the controls without their events reading it back as input: while the screen
+    // is being drawn, no event of a control runs, except those of a control that takes events
+    // always (部品::表示中も受ける). A display inside another keeps the outer one's guard.
+    template <class F>
+    void 表示(F&& 書く) {
+        const bool 外 = 表示中;
+        表示中 = true;
+        書く();
+        表示中 = 外;
+    }
+    bool 表示中か() const { return 表示中; }
+
     // The next or previous control in tab order that can take the focus and is a tab stop.
     部品* 次のタブ(const 部品* 起点, bool 逆) const;
 
   private:
-    void 呼ぶ(const std::function<void()>& 事象);
-    void 移す(部品* 先);
+    // The one door through which every event of a control runs: the display guard, the cause
+    // the focus trace names, and the handler of a run-time error.
+    void 呼ぶ(const 部品* 元, const char16_t* 事象名, const std::function<void()>& 事象);
+    void 移す(部品* 先, const QString& 理由);
+    void 待つ(部品* 先, const QString& 理由);
+    void 操作で移す(部品& 先, const QString& 原因);
     void 待ちを処理();
     void 値を変える(部品& 先, int 値);
     bool 処理中 = false;
+    bool 表示中 = false;
+    // What set the focus moving: the operator's action, or the event whose rule asked for it.
+    QString 操作原因;
+    QString 事象中;
 
     std::vector<std::unique_ptr<部品>> 部品群;
+    QHash<std::pair<QString, int>, 部品*> 索引;
     部品* 現在 = nullptr;
-    QQueue<部品*> 待ち;
+    struct 焦点移動 {
+        部品* 先;
+        QString 理由;
+    };
+    QQueue<焦点移動> 待ち;
 };

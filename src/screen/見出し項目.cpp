@@ -1,4 +1,5 @@
 #include "screen/frm紺碧帳.h"
+#include "screen/frm紺碧帳_部品名.h"
 
 #include "rules/消費税計算.h"
 #include "text/プラットフォーム.h"
@@ -9,6 +10,8 @@
 #include "text/項目編集.h"
 
 namespace {
+
+namespace 欄 = 紺碧帳部品;
 
 const QString 該当なし文言 = u"該当情報がありません。"_qs;
 
@@ -70,9 +73,9 @@ void 全行再計算(出金セッション& s) {
 // not yet left) raises 日付範囲外 like a year outside the calendar; the event's catcher
 // handles it.
 QString 一年前(const 画面モデル& 画面) {
-    const int 年 = 小整数値(画面.探す(u"出金日付年"_qs)->Text);
-    const int 月 = 小整数値(画面.探す(u"出金日付月"_qs)->Text);
-    const int 日 = 小整数値(画面.探す(u"出金日付日"_qs)->Text);
+    const int 年 = 小整数値(画面.探す(欄::出金日付年)->Text);
+    const int 月 = 小整数値(画面.探す(欄::出金日付月)->Text);
+    const int 日 = 小整数値(画面.探す(欄::出金日付日)->Text);
     const QDate 日付 = 日付構築(年, 月, 日);
     if (日付.month() != 月 || 日付.day() != 日) throw 日付範囲外();
     return 日付文字列(年数前(日付, 1));
@@ -83,7 +86,7 @@ QString 番号一覧条件(const 画面モデル& 画面, const QString& 表, co
                      const QString& 担当列) {
     QString 条件 = 表 + u".番号基準日付 <> ''"_qs + u" AND "_qs + 表 + u"."_qs + 日付列 +
                    u" >= '"_qs + 一年前(画面) + u"'"_qs;
-    const QString& 担当者 = 画面.探す(u"担当者コード"_qs)->Text;
+    const QString& 担当者 = 画面.探す(欄::担当者コード)->Text;
     if (!担当者.trimmed().isEmpty()) {
         条件 += u" AND "_qs + 表 + u"."_qs + 担当列 + u" = '"_qs + 担当者 + u"'"_qs;
     }
@@ -97,61 +100,6 @@ QString 人事連携プログラムフォルダ(出金セッション& s) {
 }
 
 }  // namespace
-
-void frm紺碧帳::見出し離脱(部品& p) {
-    const QString& 名 = p.名前;
-    // The normalised text goes back into the field even when nothing changed.
-    auto 整える = [this, &p](const QString& 文字列) {
-        表示中([&] { p.Text = 文字列; });
-        return 文字列;
-    };
-    auto 知らせる = [this] { 画面(u"お知らせ"_qs).Caption = s.お知らせ文言; };
-
-    if (名 == u"出金日付年" || 名 == u"出金日付月" || 名 == u"出金日付日") {
-        const int 部分 = 名 == u"出金日付年" ? 0 : 名 == u"出金日付月" ? 1 : 2;
-        const QString 文字列 = 整える(書式(p.Text, 部分 == 0 ? u"0000" : u"00"));
-        if (!出金日付更新(部分, 文字列)) return;
-        見出し表示();
-        明細表示();
-        合計表示();
-        知らせる();
-    } else if (名 == u"出金No") {
-        const QString No = 整える(書式桁揃え(p.Text, ゼロ文字列(8)));
-        if (!s.出金No確定(No)) return;
-        画面全表示();
-        スクロール更新();
-        知らせる();
-    } else if (名 == u"担当者コード" || 名 == u"部門コード" || 名 == u"セクションコード") {
-        const int 桁 = 名 == u"担当者コード" ? 5 : 3;
-        const QString コード = 整える(書式桁揃え(p.Text, ゼロ文字列(桁)));
-        const bool 変更 = 名 == u"担当者コード" ? 担当者確定(コード)
-                          : 名 == u"部門コード" ? 部門確定(コード)
-                                                : セクション確定(コード);
-        if (!変更) return;
-        見出し表示();
-        知らせる();
-    } else if (名 == u"出張申請No") {
-        // A disabled field takes nothing, and without the HR link the field is not there.
-        if (!p.Enabled || !s.白樺連携フラグ) return;
-        const QString No = 整える(書式桁揃え(p.Text, ゼロ文字列(8)));
-        bool 変更 = false;
-        try {
-            変更 = s.出張申請確定(No);
-        } catch (const 実行時エラー&) {
-            // The slip went back as it was; so does the field, before the error is shown.
-            見出し表示();
-            throw;
-        }
-        if (!変更) return;
-        見出し表示();
-        明細表示();
-        合計表示();
-        スクロール更新();
-        知らせる();
-    } else if (名 == u"出金伝票備考A" || 名 == u"出金伝票備考B") {
-        if (備考確定(名 == u"出金伝票備考A" ? 0 : 1, p.Text)) 合計表示();
-    }
-}
 
 bool frm紺碧帳::出金日付更新(int 部分, const QString& 文字列) {
     QString& 現 = 日付部分(s.見出し, 部分);
@@ -198,8 +146,8 @@ bool frm紺碧帳::備考確定(int 備考, const QString& 文字列) {
     if (文字列 == 現) return false;
     s.入力変更フラグ = true;
     // The column is measured in Shift-JIS bytes, as many as the field's characters.
-    const 部品& 欄 = 画面(備考 == 0 ? u"出金伝票備考A"_qs : u"出金伝票備考B"_qs);
-    現 = バイト長切詰(文字列, 欄.MaxLength);
+    const 部品& 備考欄 = 画面(備考 == 0 ? 欄::出金伝票備考A : 欄::出金伝票備考B);
+    現 = バイト長切詰(文字列, 備考欄.MaxLength);
     return true;
 }
 
@@ -209,43 +157,45 @@ void frm紺碧帳::一覧を開く(const QString& 項目名) {
     QString 一覧名;
     QString 条件;
     bool 条件あり = true;
-    QString 名称先;
-    if (項目名 == u"出金No") {
+    const 部品名* 名称先 = nullptr;
+    if (項目名 == 欄::出金No.文字列()) {
         一覧名 = u"wnd出金No一覧"_qs;
         条件 = 番号一覧条件(画面, u"T出金"_qs, u"出金日付"_qs, u"担当者コード"_qs);
-        名称先 = u"担当者名"_qs;
-    } else if (項目名 == u"担当者コード") {
+        名称先 = &欄::担当者名;
+    } else if (項目名 == 欄::担当者コード.文字列()) {
         一覧名 = u"wnd担当者一覧"_qs;
         // A typed code starts the list there and shows also those who have left.
-        const QString& 入力 = 画面(項目名).Text;
-        条件 = 入力.trimmed().isEmpty()
+        const 部品& 入力 = 画面(欄::担当者コード);
+        条件 = 入力.Text.trimmed().isEmpty()
                    ? u"M担当者.在籍区分 = '0'"_qs
-                   : u"M担当者.コード >= '"_qs + 書式桁揃え(入力, ゼロ文字列(5)) + u"'"_qs;
-        名称先 = u"担当者名"_qs;
-    } else if (項目名 == u"部門コード") {
+                   : u"M担当者.コード >= '"_qs + 書式桁揃え(入力.Text, ゼロ文字列(入力.MaxLength)) +
+                         u"'"_qs;
+        名称先 = &欄::担当者名;
+    } else if (項目名 == 欄::部門コード.文字列()) {
         一覧名 = u"wnd部門一覧"_qs;
         条件あり = false;
-        名称先 = u"部門名"_qs;
-    } else if (項目名 == u"セクションコード") {
+        名称先 = &欄::部門名;
+    } else if (項目名 == 欄::セクションコード.文字列()) {
         一覧名 = u"wndセクション一覧"_qs;
         条件あり = false;
-        名称先 = u"セクション名"_qs;
-    } else if (項目名 == u"出張申請No") {
+        名称先 = &欄::セクション名;
+    } else if (項目名 == 欄::出張申請No.文字列()) {
         一覧名 = u"wnd出張申請No一覧"_qs;
         条件 = 番号一覧条件(画面, u"T出張申請"_qs, u"出張申請日付"_qs, u"社員コード"_qs);
-        名称先 = u"担当者コード"_qs;
+        名称先 = &欄::担当者コード;
     } else {
         return;
     }
     s.データ.基盤.画面使用可否(画面.名前, false);
-    if (条件あり) s.一覧条件文字列 = 条件;
-    s.一覧設定先項目 = &画面(項目名);
-    s.一覧設定先名称項目 = &画面(名称先);
+    if (条件あり) 状態.一覧.条件 = 条件;
+    状態.一覧.設定先 = 画面.探す(項目名);
+    状態.一覧.名称先 = &画面(*名称先);
+    状態.選択鍵.reset();
     s.データ.基盤.画面表示(一覧名, true);
 }
 
 void frm紺碧帳::参照元No起動() {
-    const QString No = 画面(u"出張申請No"_qs).Text.trimmed();
+    const QString No = 画面(欄::出張申請No).Text.trimmed();
     if (No.isEmpty() || No == ゼロ文字列(No.size())) return;
     const QString フォルダ = 人事連携プログラムフォルダ(s);
     if (フォルダ.isEmpty()) return;

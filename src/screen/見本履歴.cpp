@@ -1,4 +1,5 @@
 #include "screen/見本履歴.h"
+#include "screen/msg印刷確認_部品名.h"
 
 #include <QRandomGenerator>
 #include <memory>
@@ -42,7 +43,7 @@ class 事務所の一日 {
         // The question before a store is answered "register only".
         基盤.画面表示時 = [this](const QString& 名) {
             if (名 == u"msg印刷確認")
-                f.印刷確認.画面.操作_クリック(f.印刷確認.画面(u"btn_登録"_qs));
+                f.印刷確認.画面.操作_クリック(f.印刷確認.画面(印刷確認部品::btn_登録));
         };
     }
     bool 開く() {

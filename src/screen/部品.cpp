@@ -12,6 +12,10 @@ QString 種別名(部品種別 種別) {
     return QString::fromUtf16(名前[static_cast<int>(種別)]);
 }
 
+QString 部品::表記() const {
+    return 添字 < 0 ? 名前 : 名前 + u'(' + QString::number(添字) + u')';
+}
+
 bool 部品::焦点を持てる種別() const {
     return 種別 != 部品種別::xLabel && 種別 != 部品種別::SSPanel && 種別 != 部品種別::CommonDialog;
 }

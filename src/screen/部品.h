@@ -98,6 +98,8 @@ struct 部品 {
     int MaxLength = 0;
     int Left = 0, Top = 0, Width = 0, Height = 0;
     int ForeColor = -1;  // 0xRRGGBB; -1: the window text colour
+    // Its events run even while the screen is being drawn (the quit is always there).
+    bool 表示中も受ける = false;
 
     int Value = 0;  // check box (0/1), scroll bar, tab page
     int Min = 0, Max = 0, LargeChange = 1;
@@ -134,6 +136,8 @@ struct 部品 {
     std::function<void(int)> KeyDown;
     std::function<void(int)> ColumnClick;  // a list view's heading, counted from 1
 
+    // Name and index as the focus trace prints them: "出金金額(0)".
+    QString 表記() const;
     // A class of control that can hold the focus at all; labels and panels never do.
     bool 焦点を持てる種別() const;
     // Whether the text may stand in the field as typed: its length, and the digits, sign and

@@ -19,7 +19,7 @@ bool 一覧の鍵か(const QString& 条件) {
 
 }  // namespace
 
-bool 出金セッション::出張申請確定(const QString& 入力No) {
+bool 出金セッション::出張申請確定(const QString& 入力No, std::optional<QString>& 一覧の鍵) {
     if (入力No == 見出し.出張申請No) return false;
     const 出金見出し 元見出し = 見出し;
     const auto 元行 = 行;
@@ -28,7 +28,7 @@ bool 出金セッション::出張申請確定(const QString& 入力No) {
     const bool 元変更 = 入力変更フラグ;
     const QString 元文言 = お知らせ文言;
     try {
-        return 出張申請適用(入力No);
+        return 出張申請適用(入力No, 一覧の鍵);
     } catch (const 実行時エラー&) {
         // The slip goes back whole, so that no half-taken application can be stored.
         見出し = 元見出し;
@@ -41,7 +41,7 @@ bool 出金セッション::出張申請確定(const QString& 入力No) {
     }
 }
 
-bool 出金セッション::出張申請適用(const QString& 入力No) {
+bool 出金セッション::出張申請適用(const QString& 入力No, std::optional<QString>& 一覧の鍵) {
     auto& h = 見出し;
     入力変更フラグ = true;
     if (入力No.isEmpty()) {
@@ -53,10 +53,10 @@ bool 出金セッション::出張申請適用(const QString& 入力No) {
 
     QString 事業所 = h.出張申請事業所コード;
     QString 基準日付 = h.出張申請番号基準日付;
-    if (const QString 鍵 = 一覧条件文字列.trimmed(); 一覧の鍵か(鍵)) {
+    if (const QString 鍵 = 一覧の鍵.value_or(QString()).trimmed(); 一覧の鍵か(鍵)) {
         事業所 = 鍵.mid(1, 3);
         基準日付 = 鍵.mid(4, 8);
-        一覧条件文字列.clear();
+        一覧の鍵.reset();
     }
     QString 文 = u"SELECT T出張申請.*"_qs + u" FROM T出張申請"_qs +
                  u" WHERE T出張申請.事業所コード = '"_qs + 事業所 + u"'"_qs +

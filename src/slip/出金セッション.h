@@ -3,12 +3,11 @@
 #include <QString>
 #include <QStringList>
 #include <array>
+#include <optional>
 
 #include "dataenv/データ環境.h"
 #include "rules/消費税計算.h"
 #include "text/金額.h"
-
-struct 部品;  // a control of a screen; the screens own them
 
 // The slip header in memory. The kept fields remember the stored key and date as loaded, so that
 // a changed key can still reach the stored rows.
@@ -110,7 +109,6 @@ class 出金セッション {
     bool 入力変更フラグ = false;
     bool 連携起動フラグ = false;
     bool 連携新規フラグ = false;
-    bool 画面表示中フラグ = false;
     bool 白樺連携フラグ = false;
     bool 軽減税率表示 = false;
     short 登録確認結果 = 0;  // 0 登録印刷, 1 登録, 2 いいえ
@@ -119,17 +117,8 @@ class 出金セッション {
     short 表示行 = 0;
     short 最終行 = -1;
 
-    // Hand-over between the screen's events, the order guard and the list windows: the
-    // controls by reference, owned by their screens.
+    // The notice the last commit leaves for the screen's message line.
     QString お知らせ文言;
-    部品* 離脱項目 = nullptr;
-    部品* 入力中項目 = nullptr;
-    部品* 先頭入力項目 = nullptr;
-    QString 一覧条件文字列;
-    部品* 一覧設定先項目 = nullptr;
-    部品* 一覧設定先名称項目 = nullptr;
-    QString 一覧呼出元画面;
-    int 一覧入れ子区分 = 0;
 
     // Clearing the slip in memory.
     void 出金情報初期化();
@@ -146,7 +135,14 @@ class 出金セッション {
     void 出金見出し読込(記録集合& 結果);
     void 出金明細読込();
     void 出金検索破棄();
-    bool 出金No確定(const QString& 入力No);
+    // A number typed or picked into 出金No. A pick from the number list hands its row's key
+    // ("C", office, number base date, number), which gives office and base date; the key is
+    // taken (emptied) when it serves.
+    bool 出金No確定(const QString& 入力No, std::optional<QString>& 一覧の鍵);
+    bool 出金No確定(const QString& 入力No) {
+        std::optional<QString> 無し;
+        return 出金No確定(入力No, 無し);
+    }
     bool 前No確認();
     bool 次No確認();
     bool 前No読込();
@@ -165,7 +161,11 @@ class 出金セッション {
     // The trip application typed or picked into 出張申請No, read from the HR link: its key to the
     // three reference fields and, on a slip without lines, its expense rows as lines. False
     // when the number is the one held. A run-time error part-way puts the slip back as it was.
-    bool 出張申請確定(const QString& 入力No);
+    bool 出張申請確定(const QString& 入力No, std::optional<QString>& 一覧の鍵);
+    bool 出張申請確定(const QString& 入力No) {
+        std::optional<QString> 無し;
+        return 出張申請確定(入力No, 無し);
+    }
     void 旅費明細取込();
 
     // The nine totals added up from the lines in use.
@@ -235,7 +235,7 @@ class 出金セッション {
     void 挿入結果(bool 成功);
     void 削除結果(bool 成功);
     bool 隣接読込(bool 前);
-    bool 出張申請適用(const QString& 入力No);
+    bool 出張申請適用(const QString& 入力No, std::optional<QString>& 一覧の鍵);
     void 日程連携更新(const QString& 設定);
 
     記録集合 見出し結果;  // open between 出金キー検索 and 出金見出し読込

@@ -155,7 +155,7 @@ void 出金セッション::出金検索破棄() {
     出金情報初期化();
 }
 
-bool 出金セッション::出金No確定(const QString& 入力No) {
+bool 出金セッション::出金No確定(const QString& 入力No, std::optional<QString>& 一覧の鍵) {
     if (入力No == 見出し.出金No) return false;
     入力変更フラグ = true;
     QString 文言;
@@ -165,12 +165,12 @@ bool 出金セッション::出金No確定(const QString& 入力No) {
     } else {
         QString 事業所 = 見出し.事業所コード;
         QString 基準日付 = 見出し.番号基準日付;
-        // A key left by the slip No list, but never an SQL condition left by another list.
-        const QString 鍵 = 一覧条件文字列.trimmed();
+        // A key of the slip No list, but never one of the description list's lines.
+        const QString 鍵 = 一覧の鍵.value_or(QString()).trimmed();
         if (鍵.size() == 20 && !鍵.contains(u"出金"_qs)) {
             事業所 = 鍵.mid(1, 3);
             基準日付 = 鍵.mid(4, 8);
-            一覧条件文字列.clear();
+            一覧の鍵.reset();
         }
         if (出金キー検索(事業所, 基準日付, 入力No)) {
             出金見出し読込();

@@ -53,7 +53,7 @@ class 出張申請一覧 : public 人事一覧試験 {
 TEST_P(出張申請一覧, 入力画面から開くと一年前からの申請が新しい順に並び何も選ばれていない) {
     QString 条件中;
     操作[u"wnd出張申請No一覧"_qs] = [&](一覧画面& x) {
-        条件中 = s.一覧条件文字列;
+        条件中 = f->状態.一覧.条件;
         EXPECT_EQ(x.画面(u"wnd_ttl"_qs).Caption, u"出張申請No一覧"_qs);
         EXPECT_EQ(x.画面(u"出張申請日付"_qs).Text, u"20251123"_qs);
         EXPECT_EQ(x.一覧().選択, -1);
@@ -120,7 +120,7 @@ TEST_P(出張申請一覧, キーで選ぶと番号が入り鍵の事業所と�
     EXPECT_EQ(c(u"出張申請No"_qs).Text, u"00000002"_qs);
     // The row's key, "C" with the office at 2-4 and the base date at 5-12, was read by the
     // number's leave on the way and then emptied: the slip holds the application of office 001.
-    EXPECT_TRUE(s.一覧条件文字列.isEmpty());
+    EXPECT_TRUE(f->状態.一覧.条件.isEmpty());
     EXPECT_EQ(s.見出し.出張申請事業所コード, u"001"_qs);
     EXPECT_EQ(s.見出し.出張申請番号基準日付, u"20270331"_qs);
     EXPECT_EQ(s.見出し.出張申請No, u"00000002"_qs);
@@ -142,7 +142,7 @@ TEST_P(出張申請一覧, Escでは番号欄をそのままにし条件を空�
     };
     開く();
     EXPECT_EQ(c(u"出張申請No"_qs).Text, u"00000009"_qs);
-    EXPECT_TRUE(s.一覧条件文字列.isEmpty());
+    EXPECT_TRUE(f->状態.一覧.条件.isEmpty());
     EXPECT_EQ(焦点(f->画面), u"出張申請No"_qs);
     EXPECT_EQ(基盤.閉じた画面, QStringList{u"wnd出張申請No一覧"_qs});
 }
@@ -324,10 +324,10 @@ TEST_P(出張申請一覧, 社員コードでCtrlを押すと社員一覧が入�
     int 入れ子中の区分 = 0;
     QStringList 行;
     操作[u"wnd社員一覧"_qs] = [&](一覧画面& x) {
-        入れ子中の呼出元 = s.一覧呼出元画面;
-        入れ子中の区分 = s.一覧入れ子区分;
-        EXPECT_EQ(s.一覧設定先項目, &w(u"wnd出張申請No一覧"_qs).画面(u"社員コード"_qs));
-        EXPECT_EQ(s.一覧設定先名称項目, &w(u"wnd出張申請No一覧"_qs).画面(u"btn_社員コード検索"_qs));
+        入れ子中の呼出元 = f->状態.一覧.呼出元画面;
+        入れ子中の区分 = f->状態.一覧.入れ子区分;
+        EXPECT_EQ(f->状態.一覧.設定先, &w(u"wnd出張申請No一覧"_qs).画面(u"社員コード"_qs));
+        EXPECT_EQ(f->状態.一覧.名称先, &w(u"wnd出張申請No一覧"_qs).画面(u"btn_社員コード検索"_qs));
         打つ(x, u"名称"_qs, u"工藤"_qs);
         押す(x, u"btn_名称検索"_qs);
         x.画面.操作_キー(x.一覧(), 13);
@@ -339,8 +339,8 @@ TEST_P(出張申請一覧, 社員コードでCtrlを押すと社員一覧が入�
         EXPECT_EQ(p.Text, u"00008"_qs);
         EXPECT_EQ(x.画面(u"社員名"_qs).Text, u"工藤 直樹"_qs);
         EXPECT_EQ(焦点(x.画面), u"btn_社員コード検索"_qs);
-        EXPECT_EQ(s.入力中項目, &p);
-        EXPECT_EQ(s.一覧入れ子区分, 0);
+        EXPECT_EQ(f->状態.入力中項目, &p);
+        EXPECT_EQ(f->状態.一覧.入れ子区分, 0);
         押す(x, u"btn_社員コード検索"_qs);
         行 = 列(x);
         x.画面.操作_キー(x.一覧(), 27);

@@ -56,7 +56,7 @@ TEST_P(出金No一覧, 入力画面から開くと一年前からの新しい順
         EXPECT_TRUE(x.一覧().セル(0, 4).startsWith(u"1,35"_qs));
         EXPECT_EQ(x.一覧().項目.value(0).Key, u"C00020260331"_qs + 秋);
         // The base-date restriction stays while the window is up.
-        EXPECT_EQ(s.一覧条件文字列, u"T出金.番号基準日付 <> ''"_qs);
+        EXPECT_EQ(f->状態.一覧.条件, u"T出金.番号基準日付 <> ''"_qs);
         x.画面.操作_キー(x.一覧(), 40);
         x.画面.操作_キー(x.一覧(), 13);
     };
@@ -231,7 +231,8 @@ TEST_P(出金No一覧, Escで戻ると条件は空になり番号はそのまま
         x.画面.操作_キー(x.一覧(), 27);
     };
     開く();
-    EXPECT_TRUE(s.一覧条件文字列.isEmpty());
+    EXPECT_TRUE(f->状態.一覧.条件.isEmpty());
+    EXPECT_FALSE(f->状態.選択鍵);
     EXPECT_EQ(c(u"出金No"_qs).Text, u"123"_qs);
     EXPECT_EQ(焦点(f->画面), u"出金No"_qs);
     EXPECT_EQ(基盤.閉じた画面, QStringList{u"wnd出金No一覧"_qs});
@@ -249,7 +250,7 @@ TEST_P(出金No一覧, 担当者コードでCtrlを押すと担当者一覧が�
         EXPECT_EQ(x.画面(u"担当者コード"_qs).Text, u"00003"_qs);
         EXPECT_EQ(x.画面(u"担当者名"_qs).Text, u"上田 健一"_qs);
         EXPECT_EQ(焦点(x.画面), u"btn_担当者コード検索"_qs);
-        EXPECT_EQ(s.一覧入れ子区分, 0);
+        EXPECT_EQ(f->状態.一覧.入れ子区分, 0);
     };
     開く();
 }

@@ -26,7 +26,7 @@ TEST_P(担当者一覧, 入力画面から開くと在籍者だけがコード�
     QString 条件中;
     操作[u"wnd担当者一覧"_qs] = [&](一覧画面& x) {
         行 = 列(x);
-        条件中 = s.一覧条件文字列;
+        条件中 = f->状態.一覧.条件;
         EXPECT_EQ(x.一覧().選択, -1);
         EXPECT_EQ(焦点(x.画面), u"コード"_qs);
         EXPECT_FALSE(x.画面(u"lab_注意"_qs).Visible);
@@ -46,7 +46,7 @@ TEST_P(担当者一覧, 入力画面から開くと在籍者だけがコード�
                                u"00011"_qs}));
     // The status restriction of the caller stays in force while the window is up.
     EXPECT_EQ(条件中, u"M担当者.在籍区分 = '0'"_qs);
-    EXPECT_TRUE(s.一覧条件文字列.isEmpty());
+    EXPECT_TRUE(f->状態.一覧.条件.isEmpty());
 }
 
 TEST_P(担当者一覧, 矢印とEnterで選ぶとコードが入り担当者が確定し名前の次へ進む) {
@@ -62,11 +62,11 @@ TEST_P(担当者一覧, 矢印とEnterで選ぶとコードが入り担当者が
     EXPECT_EQ(基盤.隠した画面, QStringList{u"wnd担当者一覧"_qs});
     EXPECT_TRUE(基盤.閉じた画面.isEmpty());
     EXPECT_EQ(基盤.使用可否.last(), (QPair<QString, bool>{u"frm紺碧帳"_qs, true}));
-    EXPECT_TRUE(s.一覧条件文字列.isEmpty());
+    EXPECT_TRUE(f->状態.一覧.条件.isEmpty());
     // The focus went past the staff code to what follows its name.
     // The name is read-only: the next field takes over, and the header's end hands on to the
     // first line.
-    EXPECT_EQ(s.一覧設定先名称項目, &c(u"ヘッド終了"_qs));
+    EXPECT_EQ(f->状態.一覧.名称先, &c(u"ヘッド終了"_qs));
     EXPECT_EQ(焦点(f->画面), u"費目区分(0)"_qs);
 }
 
@@ -99,11 +99,11 @@ TEST_P(担当者一覧, Escは戻るボタンと同じで入力欄をそのま�
     };
     const 部品* 名称先前 = nullptr;
     開く();
-    名称先前 = s.一覧設定先名称項目;
+    名称先前 = f->状態.一覧.名称先;
     EXPECT_EQ(c(u"担当者コード"_qs).Text, u"7"_qs);
     EXPECT_EQ(焦点(f->画面), u"担当者コード"_qs);
     EXPECT_EQ(名称先前, &c(u"担当者名"_qs));
-    EXPECT_TRUE(s.一覧条件文字列.isEmpty());
+    EXPECT_TRUE(f->状態.一覧.条件.isEmpty());
     EXPECT_EQ(基盤.隠した画面, QStringList{u"wnd担当者一覧"_qs});
     EXPECT_EQ(基盤.使用可否.last(), (QPair<QString, bool>{u"frm紺碧帳"_qs, true}));
 }
@@ -123,7 +123,7 @@ TEST_P(担当者一覧, 二度目に開くと前の行と条件が残り新し�
     c(u"担当者コード"_qs).Text = u"9"_qs;
     操作[u"wnd担当者一覧"_qs] = [&](一覧画面& x) {
         二回目 = 列(x);
-        二回目の条件 = s.一覧条件文字列;
+        二回目の条件 = f->状態.一覧.条件;
         EXPECT_EQ(x.画面(u"コード"_qs).Text, u"00005"_qs);
         EXPECT_EQ(x.一覧().選択, 1);
         // The new condition counts from the next search on.
@@ -174,7 +174,7 @@ TEST_P(担当者一覧, 渡されたコードの条件は欄に移り条件文�
     QString 条件中;
     QStringList 行;
     操作[u"wnd担当者一覧"_qs] = [&](一覧画面& x) {
-        条件中 = s.一覧条件文字列;
+        条件中 = f->状態.一覧.条件;
         行 = 列(x);
         EXPECT_EQ(x.画面(u"コード"_qs).Text, u"00123"_qs);
     };
@@ -354,7 +354,7 @@ TEST_P(担当者一覧, 条件クリアは欄と渡された条件を空にし�
         EXPECT_EQ(焦点(x.画面), u"List担当者"_qs);
         EXPECT_EQ(x.一覧().選択, 0);
         EXPECT_EQ(x.検索種別, 0);
-        EXPECT_TRUE(s.一覧条件文字列.isEmpty());
+        EXPECT_TRUE(f->状態.一覧.条件.isEmpty());
     };
     開く();
 }
@@ -396,8 +396,8 @@ TEST_P(担当者一覧, 部門コードでCtrlを押すと部門一覧が入れ�
     QString 入れ子中の呼出元;
     int 入れ子中 = 0;
     操作[u"wnd部門一覧"_qs] = [&](一覧画面& x) {
-        入れ子中 = s.一覧入れ子区分;
-        入れ子中の呼出元 = s.一覧呼出元画面;
+        入れ子中 = f->状態.一覧.入れ子区分;
+        入れ子中の呼出元 = f->状態.一覧.呼出元画面;
         x.画面.操作_キー(x.一覧(), 40);
         x.画面.操作_キー(x.一覧(), 40);
         x.画面.操作_キー(x.一覧(), 13);
@@ -408,9 +408,9 @@ TEST_P(担当者一覧, 部門コードでCtrlを押すと部門一覧が入れ�
         部門名 = x.画面(u"部門名"_qs).Text;
         EXPECT_EQ(焦点(x.画面), u"btn_部門コード検索"_qs);
         EXPECT_TRUE(x.画面(u"btn_部門コード検索"_qs).Enabled);
-        EXPECT_EQ(s.一覧入れ子区分, 0);
-        EXPECT_TRUE(s.一覧呼出元画面.isEmpty());
-        EXPECT_EQ(s.一覧設定先項目, &c(u"担当者コード"_qs));
+        EXPECT_EQ(f->状態.一覧.入れ子区分, 0);
+        EXPECT_TRUE(f->状態.一覧.呼出元画面.isEmpty());
+        EXPECT_EQ(f->状態.一覧.設定先, &c(u"担当者コード"_qs));
         押す(x, u"btn_部門コード検索"_qs);
         EXPECT_EQ(列(x), (QStringList{u"00001"_qs, u"00002"_qs, u"00011"_qs}));
         x.画面.操作_キー(x.一覧(), 13);
@@ -427,7 +427,7 @@ TEST_P(担当者一覧, 名称欄に入ると入力画面の並びで次を探�
     部品* 行き先 = nullptr;
     操作[u"wnd担当者一覧"_qs] = [&](一覧画面& x) {
         x.画面.操作_クリック(x.画面(u"部門名"_qs));
-        行き先 = s.一覧設定先名称項目;
+        行き先 = f->状態.一覧.名称先;
         // The entry screen is not this window: the focus stays here.
         EXPECT_EQ(焦点(x.画面), u"部門名"_qs);
         x.画面.操作_キー(x.一覧(), 40);
@@ -450,7 +450,7 @@ TEST_P(担当者一覧, 枠で閉じると入力画面が戻り何も入らな�
     開く();
     EXPECT_TRUE(c(u"担当者コード"_qs).Text.isEmpty());
     EXPECT_EQ(基盤.使用可否.last(), (QPair<QString, bool>{u"frm紺碧帳"_qs, true}));
-    EXPECT_TRUE(s.一覧条件文字列.isEmpty());
+    EXPECT_TRUE(f->状態.一覧.条件.isEmpty());
     EXPECT_EQ(焦点(f->画面), u"担当者コード"_qs);
     // Closed by the frame, the window is unloaded: the next opening loads it anew.
     int 行数 = -1;

@@ -58,7 +58,7 @@ TEST_P(部門一覧, 名称が空の部門は欄が空になる) {
 
 TEST_P(部門一覧, 渡された稼動状況の条件が番号になる) {
     // The entry screen hands in nothing; a sibling window may name the status.
-    s.一覧条件文字列 = u"M部門.稼動状況区分 = '2'"_qs;
+    f->状態.一覧.条件 = u"M部門.稼動状況区分 = '2'"_qs;
     基盤.画面表示(u"wnd部門一覧"_qs, true);
     EXPECT_EQ(w(u"wnd部門一覧"_qs).区分.value(u"稼動状況区分"_qs), 2);
     EXPECT_EQ(列(w(u"wnd部門一覧"_qs)), QStringList{u"009"_qs});

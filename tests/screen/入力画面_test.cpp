@@ -23,8 +23,8 @@ TEST_F(入力画面, 配置は題名と幅と長さの制限と一覧を整え�
         EXPECT_EQ(c(u"費目区分"_qs, r).Min, 0);
     }
     EXPECT_EQ(c(u"scl_行"_qs).LargeChange, 5);
-    EXPECT_EQ(s.先頭入力項目, &c(u"担当者コード"_qs));
-    EXPECT_EQ(s.入力中項目, &c(u"担当者コード"_qs));
+    EXPECT_EQ(f->状態.先頭入力項目, &c(u"担当者コード"_qs));
+    EXPECT_EQ(f->状態.入力中項目, &c(u"担当者コード"_qs));
 }
 
 // The head office of a company with branches works for all of it; the operator checked at the
@@ -63,7 +63,7 @@ TEST_F(入力画面, 表示は見出しを書き人事連携がなければ出�
     EXPECT_FALSE(c(u"出張申請No"_qs).Visible);
     EXPECT_FALSE(c(u"btn_参照元No"_qs).Visible);
     EXPECT_FALSE(c(u"btn_帳票イメージ出力"_qs).Visible);
-    EXPECT_FALSE(s.画面表示中フラグ);
+    EXPECT_FALSE(f->画面.表示中か());
     s.白樺連携フラグ = true;
     f->見出し表示();
     EXPECT_TRUE(c(u"出張申請No"_qs).Visible);
@@ -307,7 +307,7 @@ TEST_F(入力画面, 日付の題の枠を押すと年を得たのと同じで�
     f->画面.操作_フォーカス(c(u"出金No"_qs));
     f->画面.操作_クリック(c(u"itm_ttl_出金日付"_qs));
     // The year's got-focus ran: it is the item being entered, and nothing sent the focus on.
-    EXPECT_EQ(s.入力中項目, &c(u"出金日付年"_qs));
+    EXPECT_EQ(f->状態.入力中項目, &c(u"出金日付年"_qs));
     EXPECT_EQ(焦点(), u"出金No"_qs);
 }
 
@@ -318,7 +318,7 @@ TEST_F(入力画面, 列の題の枠を押すと今の行のその項目を得�
     f->画面.操作_クリック(c(u"itm_ttl_出金金額"_qs));
     // The first row has no class yet: the amount is a later item of that line.
     EXPECT_EQ(焦点(), u"費目区分(0)"_qs);
-    EXPECT_EQ(s.入力中項目, &c(u"費目区分"_qs, 0));
+    EXPECT_EQ(f->状態.入力中項目, &c(u"費目区分"_qs, 0));
     EXPECT_FALSE(c(u"btn_行複写"_qs).Enabled);
 }
 
@@ -336,7 +336,7 @@ TEST_F(入力画面, 内税外税の題の枠は行の内税外税区分とし�
     行を打つ(2);
     f->画面.操作_フォーカス(c(u"摘要"_qs, 1));
     f->画面.操作_クリック(c(u"itm_ttl_内税外税"_qs));
-    EXPECT_EQ(s.入力中項目, &c(u"内税外税区分"_qs, 1));
+    EXPECT_EQ(f->状態.入力中項目, &c(u"内税外税区分"_qs, 1));
     EXPECT_EQ(s.表示行, 1);
     EXPECT_EQ(焦点(), u"摘要(1)"_qs);  // the item is already the one being entered
 }

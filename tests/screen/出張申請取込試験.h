@@ -39,7 +39,7 @@ class 出張申請取込 : public 人事連携試験 {
     // focus on the field and on to the staff code, which leaves the field.
     void 選ぶ(const QString& 事業所, const QString& 基準日付, const QString& No) {
         f->画面.操作_フォーカス(c(u"出張申請No"_qs));
-        s.一覧条件文字列 = u"C"_qs + 事業所 + 基準日付 + No;
+        f->状態.選択鍵 = u"C"_qs + 事業所 + 基準日付 + No;
         f->画面.文字設定(c(u"出張申請No"_qs), No);
         f->画面.操作_フォーカス(c(u"担当者コード"_qs));
     }

@@ -15,7 +15,7 @@ TEST_F(合計表示, 通常表示では縦計と実質額を書き税別の枠�
     EXPECT_EQ(c(u"実質出金金額合計"_qs).Text, u"0"_qs);
     EXPECT_EQ(c(u"出金伝票備考A"_qs).Text, u"備考A"_qs);
     EXPECT_FALSE(c(u"bak_税別合計"_qs).Visible);
-    EXPECT_FALSE(s.画面表示中フラグ);
+    EXPECT_FALSE(f->画面.表示中か());
 }
 
 TEST_F(合計表示, 切替の釦で税別の枠を出し戻す) {

@@ -507,7 +507,7 @@ TEST_F(明細確定, 桁あふれは知らせて操作だけを終える) {
     f->画面.操作_入力(c(u"出金消費税"_qs, 0), u"1"_qs);
     f->画面.操作_Tab();
     EXPECT_TRUE(基盤.表示文言().contains(u"オーバーフローしました。"_qs));
-    EXPECT_FALSE(s.画面表示中フラグ);
+    EXPECT_FALSE(f->画面.表示中か());
     EXPECT_FALSE(f->画面使用中);
     // The screen listens again.
     f->画面.操作_フォーカス(c(u"出金日付年"_qs));
@@ -554,7 +554,7 @@ TEST_F(明細表示, 行の欄と一覧の位置は行の値から) {
     EXPECT_EQ(欄の字(u"摘要"_qs, 1), u"摘要002"_qs);
     EXPECT_EQ(c(u"chb_課税事業所区分"_qs, 1).Value, 1);
     EXPECT_EQ(c(u"費目区分名称"_qs, 0).ListIndex, 2);
-    EXPECT_FALSE(s.画面表示中フラグ);
+    EXPECT_FALSE(f->画面.表示中か());
 }
 
 TEST_F(明細表示, 内税の行の税だけが赤みの色で出る) {
@@ -914,11 +914,16 @@ class 明細摘要一覧 : public 明細試験 {
     void 一覧で選ぶ(const QString& 鍵) {
         基盤.画面表示時 = [this, 鍵](const QString& 名) {
             if (名 != u"wnd出金摘要一覧") return;
-            渡された条件 = s.一覧条件文字列;
-            設定先 = s.一覧設定先項目;
-            名称先 = s.一覧設定先名称項目;
+            渡された条件 = f->状態.一覧.条件;
+            設定先 = f->状態.一覧.設定先;
+            名称先 = f->状態.一覧.名称先;
             使用中だった = f->画面使用中;
-            s.一覧条件文字列 = 鍵;
+            f->状態.一覧.条件.clear();
+            if (鍵.isEmpty()) {
+                f->状態.選択鍵.reset();
+            } else {
+                f->状態.選択鍵 = 鍵;
+            }
         };
     }
     QString 渡された条件 = u"未"_qs;

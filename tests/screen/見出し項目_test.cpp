@@ -228,13 +228,13 @@ TEST_F(見出し項目, 画面の番号を打ち直しても何も読まない) 
 
 TEST_F(見出し項目, 一覧が残した鍵なら別の番号期間の伝票が読まれる) {
     保存伝票(u"00000007"_qs, u"20250310"_qs, 1, u"20250331"_qs);
-    s.一覧条件文字列 = u"C0002025033100000007"_qs;
+    f->状態.選択鍵 = u"C0002025033100000007"_qs;
 
     打って抜ける(u"出金No"_qs, u"00000007"_qs);
 
     EXPECT_EQ(s.見出し.番号基準日付, u"20250331"_qs);
     EXPECT_EQ(s.見出し.出金日付, u"20250310"_qs);
-    EXPECT_EQ(s.一覧条件文字列, QString());
+    EXPECT_FALSE(f->状態.選択鍵);
     EXPECT_EQ(c(u"出金日付年"_qs).Text, u"2025"_qs);
     EXPECT_EQ(c(u"出金日付月"_qs).Text, u"03"_qs);
 }
@@ -491,9 +491,9 @@ TEST_F(見出し項目, 空の担当者欄からの一覧は在籍者だけを�
     EXPECT_EQ(基盤.使用可否[0], (QPair<QString, bool>{u"frm紺碧帳"_qs, false}));
     ASSERT_EQ(基盤.表示画面.size(), 1);
     EXPECT_EQ(最後の表示(), (QPair<QString, bool>{u"wnd担当者一覧"_qs, true}));
-    EXPECT_EQ(s.一覧条件文字列, u"M担当者.在籍区分 = '0'"_qs);
-    EXPECT_EQ(s.一覧設定先項目, &c(u"担当者コード"_qs));
-    EXPECT_EQ(s.一覧設定先名称項目, &c(u"担当者名"_qs));
+    EXPECT_EQ(f->状態.一覧.条件, u"M担当者.在籍区分 = '0'"_qs);
+    EXPECT_EQ(f->状態.一覧.設定先, &c(u"担当者コード"_qs));
+    EXPECT_EQ(f->状態.一覧.名称先, &c(u"担当者名"_qs));
 }
 
 TEST_F(見出し項目, 担当者欄に打ったコードからの一覧は退職者も出す) {
@@ -502,7 +502,7 @@ TEST_F(見出し項目, 担当者欄に打ったコードからの一覧は退�
 
     ASSERT_EQ(基盤.表示画面.size(), 1);
     EXPECT_EQ(最後の表示(), (QPair<QString, bool>{u"wnd担当者一覧"_qs, true}));
-    EXPECT_EQ(s.一覧条件文字列, u"M担当者.コード >= '00012'"_qs);
+    EXPECT_EQ(f->状態.一覧.条件, u"M担当者.コード >= '00012'"_qs);
     EXPECT_EQ(s.見出し.担当者コード, QString());  // the field was not left
 }
 
@@ -514,27 +514,27 @@ TEST_F(見出し項目, 担当者欄のダブルクリックでも一覧が開�
 
     ASSERT_EQ(基盤.表示画面.size(), 1);
     EXPECT_EQ(最後の表示().first, u"wnd担当者一覧"_qs);
-    EXPECT_EQ(s.一覧設定先項目, &c(u"担当者コード"_qs));
+    EXPECT_EQ(f->状態.一覧.設定先, &c(u"担当者コード"_qs));
 }
 
 TEST_F(見出し項目, 部門とセクションの一覧は条件に手を付けない) {
     見出しを埋める();
     f->画面.操作_フォーカス(c(u"担当者コード"_qs));  // the guard updates the buttons
-    s.一覧条件文字列 = u"前の条件"_qs;
+    f->状態.一覧.条件 = u"前の条件"_qs;
 
     f->画面.操作_クリック(c(u"btn_部門コード"_qs));
     ASSERT_EQ(基盤.表示画面.size(), 1);
     EXPECT_EQ(最後の表示(), (QPair<QString, bool>{u"wnd部門一覧"_qs, true}));
-    EXPECT_EQ(s.一覧条件文字列, u"前の条件"_qs);
-    EXPECT_EQ(s.一覧設定先項目, &c(u"部門コード"_qs));
-    EXPECT_EQ(s.一覧設定先名称項目, &c(u"部門名"_qs));
+    EXPECT_EQ(f->状態.一覧.条件, u"前の条件"_qs);
+    EXPECT_EQ(f->状態.一覧.設定先, &c(u"部門コード"_qs));
+    EXPECT_EQ(f->状態.一覧.名称先, &c(u"部門名"_qs));
 
     f->画面.操作_キー(c(u"セクションコード"_qs), 17);
     ASSERT_EQ(基盤.表示画面.size(), 2);
     EXPECT_EQ(最後の表示(), (QPair<QString, bool>{u"wndセクション一覧"_qs, true}));
-    EXPECT_EQ(s.一覧条件文字列, u"前の条件"_qs);
-    EXPECT_EQ(s.一覧設定先項目, &c(u"セクションコード"_qs));
-    EXPECT_EQ(s.一覧設定先名称項目, &c(u"セクション名"_qs));
+    EXPECT_EQ(f->状態.一覧.条件, u"前の条件"_qs);
+    EXPECT_EQ(f->状態.一覧.設定先, &c(u"セクションコード"_qs));
+    EXPECT_EQ(f->状態.一覧.名称先, &c(u"セクション名"_qs));
 
     f->画面.操作_ダブルクリック(c(u"部門コード"_qs));
     ASSERT_EQ(基盤.表示画面.size(), 3);
@@ -563,14 +563,14 @@ TEST_F(見出し項目, 出金No一覧は画面の日付の一年前からで担
     f->画面.操作_クリック(c(u"btn_出金No"_qs));
     ASSERT_EQ(基盤.表示画面.size(), 1);
     EXPECT_EQ(最後の表示(), (QPair<QString, bool>{u"wnd出金No一覧"_qs, true}));
-    EXPECT_EQ(s.一覧条件文字列, u"T出金.番号基準日付 <> '' AND T出金.出金日付 >= '20241120'"_qs);
-    EXPECT_EQ(s.一覧設定先項目, &c(u"出金No"_qs));
-    EXPECT_EQ(s.一覧設定先名称項目, &c(u"担当者名"_qs));
+    EXPECT_EQ(f->状態.一覧.条件, u"T出金.番号基準日付 <> '' AND T出金.出金日付 >= '20241120'"_qs);
+    EXPECT_EQ(f->状態.一覧.設定先, &c(u"出金No"_qs));
+    EXPECT_EQ(f->状態.一覧.名称先, &c(u"担当者名"_qs));
 
     見出しを埋める();
     f->画面.操作_キー(c(u"出金No"_qs), 17);
     EXPECT_EQ(
-        s.一覧条件文字列,
+        f->状態.一覧.条件,
         u"T出金.番号基準日付 <> '' AND T出金.出金日付 >= '20241120' AND T出金.担当者コード = '00003'"_qs);
 }
 
@@ -583,7 +583,7 @@ TEST_F(見出し項目, 閏日の一年前は二月二十八日) {
     f->画面.操作_ダブルクリック(c(u"出金No"_qs));
 
     ASSERT_EQ(基盤.表示画面.size(), 1);
-    EXPECT_EQ(s.一覧条件文字列, u"T出金.番号基準日付 <> '' AND T出金.出金日付 >= '20230228'"_qs);
+    EXPECT_EQ(f->状態.一覧.条件, u"T出金.番号基準日付 <> '' AND T出金.出金日付 >= '20230228'"_qs);
 }
 
 TEST_F(見出し項目, 出金Noの釦は焦点を取るので打った日は直されてから一覧の条件になる) {
@@ -593,20 +593,20 @@ TEST_F(見出し項目, 出金Noの釦は焦点を取るので打った日は直
 
     EXPECT_EQ(s.見出し.出金日付, u"20251130"_qs);
     ASSERT_EQ(基盤.表示画面.size(), 1);
-    EXPECT_EQ(s.一覧条件文字列, u"T出金.番号基準日付 <> '' AND T出金.出金日付 >= '20241130'"_qs);
+    EXPECT_EQ(f->状態.一覧.条件, u"T出金.番号基準日付 <> '' AND T出金.出金日付 >= '20241130'"_qs);
 }
 
 TEST_F(見出し項目, 画面の日付が暦にないまま出金No一覧を開くと日付エラーで何も変えない) {
     // The fields as drawn, not as the slip holds them: a day the calendar does not have.
     c(u"出金日付日"_qs).Text = u"31"_qs;
-    s.一覧条件文字列 = u"前の条件"_qs;
+    f->状態.一覧.条件 = u"前の条件"_qs;
 
     EXPECT_THROW(f->一覧を開く(u"出金No"_qs), 日付範囲外);
 
     EXPECT_TRUE(基盤.表示画面.isEmpty());
     EXPECT_TRUE(基盤.使用可否.isEmpty());
-    EXPECT_EQ(s.一覧条件文字列, u"前の条件"_qs);
-    EXPECT_EQ(s.一覧設定先項目, nullptr);
+    EXPECT_EQ(f->状態.一覧.条件, u"前の条件"_qs);
+    EXPECT_EQ(f->状態.一覧.設定先, nullptr);
 }
 
 TEST_F(見出し項目, 出張申請No一覧は申請日付と社員で絞りダブルクリックでは開かない) {
@@ -619,25 +619,25 @@ TEST_F(見出し項目, 出張申請No一覧は申請日付と社員で絞りダ
     f->画面.操作_クリック(c(u"btn_出張申請No"_qs));
     ASSERT_EQ(基盤.表示画面.size(), 1);
     EXPECT_EQ(最後の表示(), (QPair<QString, bool>{u"wnd出張申請No一覧"_qs, true}));
-    EXPECT_EQ(s.一覧条件文字列,
+    EXPECT_EQ(f->状態.一覧.条件,
               u"T出張申請.番号基準日付 <> '' AND T出張申請.出張申請日付 >= '20241120'"_qs);
-    EXPECT_EQ(s.一覧設定先項目, &c(u"出張申請No"_qs));
-    EXPECT_EQ(s.一覧設定先名称項目, &c(u"担当者コード"_qs));
+    EXPECT_EQ(f->状態.一覧.設定先, &c(u"出張申請No"_qs));
+    EXPECT_EQ(f->状態.一覧.名称先, &c(u"担当者コード"_qs));
 
     見出しを埋める();
     f->画面.操作_キー(c(u"出張申請No"_qs), 17);
     ASSERT_EQ(基盤.表示画面.size(), 2);
     EXPECT_EQ(
-        s.一覧条件文字列,
+        f->状態.一覧.条件,
         u"T出張申請.番号基準日付 <> '' AND T出張申請.出張申請日付 >= '20241120' AND T出張申請.社員コード = '00003'"_qs);
 }
 
 TEST_F(見出し項目, 一覧で選んだ担当者はフォーカスの移りで取り込まれる) {
     基盤.画面表示時 = [this](const QString&) {
-        s.一覧設定先項目->Text = u"00005"_qs;
+        f->状態.一覧.設定先->Text = u"00005"_qs;
         基盤.画面使用可否(u"frm紺碧帳"_qs, true);
-        f->画面.SetFocus(*s.一覧設定先項目);
-        f->画面.SetFocus(*s.一覧設定先名称項目);
+        f->画面.SetFocus(*f->状態.一覧.設定先);
+        f->画面.SetFocus(*f->状態.一覧.名称先);
     };
     f->画面.操作_フォーカス(c(u"担当者コード"_qs));
 

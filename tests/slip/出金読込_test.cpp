@@ -260,21 +260,21 @@ TEST_P(出金読込, 見つかった番号は未保存の変更があっても�
 
 TEST_P(出金読込, 一覧の二十文字の鍵は事業所と基準日付を与え使った後は空になる) {
     投入(u"00000005"_qs, u"20251118"_qs, 1, u"20250331"_qs);
-    s.一覧条件文字列 =
+    std::optional<QString> 鍵 =
         u"C00020250331"
         "00000005"_qs;
-    EXPECT_TRUE(s.出金No確定(u"00000005"_qs));
+    EXPECT_TRUE(s.出金No確定(u"00000005"_qs, 鍵));
     EXPECT_EQ(s.見出し.番号基準日付, u"20250331"_qs);
     EXPECT_EQ(s.最終行, 0);
-    EXPECT_EQ(s.一覧条件文字列, QString());
+    EXPECT_FALSE(鍵);
 }
 
-TEST_P(出金読込, 出金を含む条件文は鍵として読まない) {
+TEST_P(出金読込, 出金を含む答えは鍵として読まない) {
     投入(u"00000005"_qs, u"20251118"_qs, 1, u"20250331"_qs);
-    s.一覧条件文字列 = u"T出金.出金No >= '1'"_qs.leftJustified(20, u' ');
-    EXPECT_TRUE(s.出金No確定(u"00000005"_qs));
+    std::optional<QString> 鍵 = u"T出金.出金No >= '1'"_qs.leftJustified(20, u' ');
+    EXPECT_TRUE(s.出金No確定(u"00000005"_qs, 鍵));
     EXPECT_EQ(s.お知らせ文言, u"新規情報です。"_qs);  // searched under the session's base date
-    EXPECT_FALSE(s.一覧条件文字列.isEmpty());
+    EXPECT_TRUE(鍵);
 }
 
 TEST_P(出金読込, 最初の伝票では前は何もしない) {

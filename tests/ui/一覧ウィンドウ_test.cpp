@@ -149,7 +149,7 @@ TEST_F(人事一覧ウィンドウ試験, 出張申請No一覧で社員を打っ
     EXPECT_EQ(c(u"出張申請No"_qs).Text, u"00000001"_qs);
     EXPECT_EQ(qobject_cast<QLineEdit*>(主(u"出張申請No"_qs))->text(), u"00000001"_qs);
     // The field's leave took the row's key: office and base date of the pick, its three lines.
-    EXPECT_TRUE(s.一覧条件文字列.isEmpty());
+    EXPECT_TRUE(f.状態.一覧.条件.isEmpty());
     EXPECT_EQ(s.見出し.出張申請事業所コード, u"000"_qs);
     EXPECT_EQ(s.見出し.出張申請番号基準日付, u"20270331"_qs);
     EXPECT_EQ(s.最終行, 2);
@@ -294,7 +294,7 @@ TEST_F(人事一覧ウィンドウ試験, 十六行の申請はTabだけで十�
     Tab();
     ASSERT_EQ(焦点(), u"出張申請No"_qs);
     // The key the trip list leaves behind with its pick; the number is typed.
-    s.一覧条件文字列 = u"C000"_qs + 今期 + u"00000055"_qs;
+    f.状態.選択鍵 = u"C000"_qs + 今期 + u"00000055"_qs;
     打つ(u"00000055"_qs);
     Tab();
     ASSERT_EQ(s.最終行, 15);

@@ -223,7 +223,7 @@ TEST_F(入力画面ウィンドウ試験, 題の枠を押すとその項目を�
     QTest::mouseClick(w(u"itm_ttl_出金金額"_qs), Qt::LeftButton);
     EXPECT_EQ(焦点(), u"担当者コード"_qs);
     // The panel ran the amount's got-focus, and the focus never left the staff code.
-    EXPECT_EQ(s.入力中項目, &c(u"出金金額"_qs, 0));
+    EXPECT_EQ(f.状態.入力中項目, &c(u"出金金額"_qs, 0));
     一致を確かめる();
 }
 
