@@ -6,6 +6,7 @@
 
 #include "dataenv/データ環境.h"
 #include "rules/消費税計算.h"
+#include "slip/伝票鍵.h"
 #include "text/金額.h"
 
 struct 部品;  // a control of a screen; the screens own them
@@ -49,6 +50,17 @@ struct 出金見出し {
     QString 出金履歴No;
     QString 旧出金履歴No;
     short 最大固有行No = 0;
+
+    伝票鍵 鍵() const { return {事業所コード, 番号基準日付, 出金No}; }
+    // The key the slip is stored under, as loaded.
+    伝票鍵 保持鍵() const { return {保持事業所コード, 保持番号基準日付, 保持出金No}; }
+    伝票鍵 出張申請鍵() const { return {出張申請事業所コード, 出張申請番号基準日付, 出張申請No}; }
+    // The date's three fields as the screen shows them, cut from 出金日付.
+    void 出金日付を分ける() {
+        出金日付年 = 出金日付.mid(0, 4);
+        出金日付月 = 出金日付.mid(4, 2);
+        出金日付日 = 出金日付.mid(6, 2);
+    }
 };
 
 // The totals of the slip, added up from its lines after each change and overwritten on load.
@@ -139,8 +151,7 @@ class 出金セッション {
     void 出金合計初期化();
 
     // Loading stored slips and stepping between them.
-    bool 出金キー検索(const QString& 事業所コード, const QString& 番号基準日付,
-                      const QString& 出金No);
+    bool 出金キー検索(const ::伝票鍵& 鍵);
     void 出金見出し読込();
     // The same from a header row of another query, which is closed afterwards.
     void 出金見出し読込(記録集合& 結果);
@@ -170,8 +181,8 @@ class 出金セッション {
 
     // The nine totals added up from the lines in use.
     void 合計再計算();
-    // The slip key as one text of 19 characters: office, number base date, number.
-    QString 伝票鍵() const { return 見出し.事業所コード + 見出し.番号基準日付 + 見出し.出金No; }
+    // The key of the slip on screen (it may not be stored yet).
+    ::伝票鍵 伝票鍵() const { return 見出し.鍵(); }
 
     // The slip date as typed: repaired, and what hangs on it derived again (number period,
     // proposal, aggregate date, tax rates).
