@@ -96,13 +96,13 @@ void frm紺碧帳::事象を結ぶ() {
         s.軽減税率表示 = false;
         合計表示();
     };
-    // The lookups: key code 17 or a double click in the field, or the field's button.
+    // The lookups: Ctrl or a double click in the field, or the field's button.
     for (const char16_t* 名 :
          {u"出金No", u"担当者コード", u"部門コード", u"セクションコード", u"出張申請No"}) {
         const QString 名前 = QString::fromUtf16(名);
         部品& p = 画面(名前);
-        p.KeyDown = [this, 名前](int キー) {
-            if (!s.画面表示中フラグ && キー == 17) 一覧を開く(名前);
+        p.KeyDown = [this, 名前](キーコード キー) {
+            if (!s.画面表示中フラグ && キー == キーコード::Ctrl) 一覧を開く(名前);
         };
         if (名前 != u"出張申請No") {
             p.DblClick = [this, &p] {

@@ -2,8 +2,6 @@
 
 #include <QStringList>
 
-namespace 鍵列 {
-
 namespace {
 
 using enum 鍵の列::部分;
@@ -13,29 +11,6 @@ using enum 鍵の列::部分;
               const QString& 番号列, const QString& 行列 = {}) {
     return {表, {{{事業所, 事業所列}, {基準日付, 日付列}, {番号, 番号列}}}, 行列};
 }
-
-}  // namespace
-
-const 鍵の列 T出金 = 並べて({}, u"事業所コード"_qs, u"番号基準日付"_qs, u"出金No"_qs);
-const 鍵の列 T出金明細 =
-    並べて({}, u"事業所コード"_qs, u"番号基準日付"_qs, u"出金No"_qs, u"出金固有行No"_qs);
-const 鍵の列 T出金読込 = {
-    u"T出金"_qs,
-    {{{番号, u"出金No"_qs}, {事業所, u"事業所コード"_qs}, {基準日付, u"番号基準日付"_qs}}}};
-const 鍵の列 T出金明細表付 = 並べて(u"T出金明細"_qs, u"事業所コード"_qs, u"番号基準日付"_qs,
-                                    u"出金No"_qs, u"出金固有行No"_qs);
-const 鍵の列 R出金履歴 = 並べて({}, u"事業所コード"_qs, u"番号基準日付"_qs, u"出金履歴No"_qs);
-const 鍵の列 T営業活動明細 =
-    並べて({}, u"出金事業所コード"_qs, u"出金番号基準日付"_qs, u"出金No"_qs);
-const 鍵の列 T出張申請 = {
-    u"T出張申請"_qs,
-    {{{事業所, u"事業所コード"_qs}, {番号, u"出張申請No"_qs}, {基準日付, u"番号基準日付"_qs}}}};
-const 鍵の列 T出張旅費 =
-    並べて(u"T出張旅費"_qs, u"事業所コード"_qs, u"番号基準日付"_qs, u"出張申請No"_qs);
-
-}  // namespace 鍵列
-
-namespace {
 
 QString 列名(const 鍵の列& 列, const QString& 名前) {
     return 列.表.isEmpty() ? 名前 : 列.表 + u'.' + 名前;
@@ -54,6 +29,24 @@ QString 値(const 伝票鍵& 鍵, 鍵の列::部分 何) {
 }
 
 }  // namespace
+
+const 鍵の列 鍵の列::T出金 = 並べて({}, u"事業所コード"_qs, u"番号基準日付"_qs, u"出金No"_qs);
+const 鍵の列 鍵の列::T出金明細 =
+    並べて({}, u"事業所コード"_qs, u"番号基準日付"_qs, u"出金No"_qs, u"出金固有行No"_qs);
+const 鍵の列 鍵の列::T出金読込 = {
+    u"T出金"_qs,
+    {{{番号, u"出金No"_qs}, {事業所, u"事業所コード"_qs}, {基準日付, u"番号基準日付"_qs}}}};
+const 鍵の列 鍵の列::T出金明細表付 = 並べて(u"T出金明細"_qs, u"事業所コード"_qs, u"番号基準日付"_qs,
+                                            u"出金No"_qs, u"出金固有行No"_qs);
+const 鍵の列 鍵の列::R出金履歴 =
+    並べて({}, u"事業所コード"_qs, u"番号基準日付"_qs, u"出金履歴No"_qs);
+const 鍵の列 鍵の列::T営業活動明細 =
+    並べて({}, u"出金事業所コード"_qs, u"出金番号基準日付"_qs, u"出金No"_qs);
+const 鍵の列 鍵の列::T出張申請 = {
+    u"T出張申請"_qs,
+    {{{事業所, u"事業所コード"_qs}, {番号, u"出張申請No"_qs}, {基準日付, u"番号基準日付"_qs}}}};
+const 鍵の列 鍵の列::T出張旅費 =
+    並べて(u"T出張旅費"_qs, u"事業所コード"_qs, u"番号基準日付"_qs, u"出張申請No"_qs);
 
 QString 伝票鍵::文字列() const {
     return 事業所コード + 番号基準日付 + 番号;
@@ -77,7 +70,9 @@ QString 伝票鍵::条件(const 鍵の列& 列) const {
 
 QString 伝票鍵::設定(const 鍵の列& 列) const {
     QStringList 句;
-    for (const auto& c : 列.列順) 句.append(u"["_qs + c.名前 + u"] = '"_qs + 値(*this, c.何) + u"'"_qs);
+    for (const auto& c : 列.列順) {
+        句.append(u"["_qs + c.名前 + u"] = '"_qs + 値(*this, c.何) + u"'"_qs);
+    }
     return u" "_qs + 句.join(u',');
 }
 

@@ -15,25 +15,23 @@ struct 鍵の列 {
     QString 表;  // empty: the columns go unqualified
     std::array<列, 3> 列順;
     QString 行列 = {};
-};
 
-// The tables and statements the key reaches, each as it names the columns.
-namespace 鍵列 {
-// A slip by its key, in the slip, its lines (past line pick) and its store checks.
-extern const 鍵の列 T出金;
-extern const 鍵の列 T出金明細;
-// The header read names the number first and qualifies every column.
-extern const 鍵の列 T出金読込;
-// The lines of a slip, read and moved to the history.
-extern const 鍵の列 T出金明細表付;
-// A history row by its history number, which runs in the slip's number sequence.
-extern const 鍵の列 R出金履歴;
-// The schedule rows of the sales activity program that point at a slip.
-extern const 鍵の列 T営業活動明細;
-// A trip application of the HR link and its travel expense rows.
-extern const 鍵の列 T出張申請;
-extern const 鍵の列 T出張旅費;
-}  // namespace 鍵列
+    // The tables and statements the key reaches, each as it names the columns.
+    // A slip by its key, in the slip, its lines (past line pick) and its store checks.
+    static const 鍵の列 T出金;
+    static const 鍵の列 T出金明細;
+    // The header read names the number first and qualifies every column.
+    static const 鍵の列 T出金読込;
+    // The lines of a slip, read and moved to the history.
+    static const 鍵の列 T出金明細表付;
+    // A history row by its history number, which runs in the slip's number sequence.
+    static const 鍵の列 R出金履歴;
+    // The schedule rows of the sales activity program that point at a slip.
+    static const 鍵の列 T営業活動明細;
+    // A trip application of the HR link and its travel expense rows.
+    static const 鍵の列 T出張申請;
+    static const 鍵の列 T出張旅費;
+};
 
 // The key of a numbered document (a slip, a trip application): office (3), number base date (8)
 // and number (8), one text of 19 characters wherever it travels as one string.

@@ -60,13 +60,12 @@ bool 出金セッション::出張申請適用(const QString& 入力No) {
     }
     if (鍵.番号基準日付.isEmpty()) {
         // A typed number belongs to the period of the slip date.
-        鍵.番号基準日付 =
-            連携番号基準日付取得(連携番号環境(データ), 番号定数::出張申請番号ID.toString(),
-                                 h.出金日付, 鍵.事業所コード);
+        鍵.番号基準日付 = 連携番号基準日付取得(
+            連携番号環境(データ), 番号定数::出張申請番号ID.toString(), h.出金日付, 鍵.事業所コード);
     }
     記録集合 rs;
-    if (!データ.連携DB検索(rs, u"SELECT T出張申請.*"_qs + u" FROM T出張申請"_qs +
-                                   鍵.条件(鍵列::T出張申請))) {
+    if (!データ.連携DB検索(
+            rs, u"SELECT T出張申請.*"_qs + u" FROM T出張申請"_qs + 鍵.条件(鍵の列::T出張申請))) {
         rs.閉じる();
         h.出張申請事業所コード.clear();
         h.出張申請番号基準日付.clear();
@@ -91,7 +90,7 @@ void 出金セッション::旅費明細取込() {
     const QString 文 =
         u"SELECT T出張旅費.*,K旅費区分.名称 AS 旅費区分名,K旅費区分.費目区分"_qs +
         u" FROM K旅費区分 INNER JOIN T出張旅費 ON K旅費区分.区分 = T出張旅費.旅費区分"_qs +
-        h.出張申請鍵().条件(鍵列::T出張旅費) + u" ORDER BY T出張旅費.旅費行No"_qs;
+        h.出張申請鍵().条件(鍵の列::T出張旅費) + u" ORDER BY T出張旅費.旅費行No"_qs;
     記録集合 rs;
     if (データ.連携DB検索(rs, 文)) {
         // No limit of its own: a sixteenth row takes the spare slot, a seventeenth ends the

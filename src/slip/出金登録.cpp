@@ -212,12 +212,12 @@ bool 出金セッション::番号採番確認() {
             [&] { return 次番号採番(データ, 番号ID, h.番号基準日付, h.事業所コード); },
             [&](const QString& No) {
                 return 行あり(u"SELECT TOP 1 出金No FROM T出金"_qs +
-                              h.鍵().番号替え(No).条件(鍵列::T出金));
+                              h.鍵().番号替え(No).条件(鍵の列::T出金));
             });
         return true;
     }
     // A number typed by hand is refused when it is stored already.
-    if (行あり(u"SELECT  TOP 1 出金No FROM T出金"_qs + h.鍵().条件(鍵列::T出金))) {
+    if (行あり(u"SELECT  TOP 1 出金No FROM T出金"_qs + h.鍵().条件(鍵の列::T出金))) {
         処理結果区分 = 3;
         処理結果メッセージ = 登録失敗文言;
         return false;
@@ -232,7 +232,7 @@ QString 出金セッション::出金履歴No採番() {
         [&] { return 次履歴番号採番(データ, 番号ID, h.番号基準日付, h.事業所コード); },
         [&](const QString& No) {
             return 行あり(u"SELECT TOP 1 出金No FROM R出金"_qs +
-                          h.鍵().番号替え(No).条件(鍵列::R出金履歴));
+                          h.鍵().番号替え(No).条件(鍵の列::R出金履歴));
         });
 }
 
@@ -311,7 +311,7 @@ void 出金セッション::出金履歴書込() {
     // The number is taken before the row is known to exist, so a slip gone meanwhile still
     // advances the history sequence.
     h.旧出金履歴No = 出金履歴No採番();
-    const QString 条件 = h.保持鍵().条件(鍵列::T出金);
+    const QString 条件 = h.保持鍵().条件(鍵の列::T出金);
     記録集合 rs;
     if (!データ.業務DB検索(rs, u"SELECT * FROM T出金"_qs + 条件)) {
         rs.閉じる();
@@ -328,7 +328,7 @@ void 出金セッション::出金履歴書込() {
 
 void 出金セッション::出金明細履歴書込() {
     const auto& h = 見出し;
-    const QString 条件 = h.保持鍵().条件(鍵列::T出金明細表付);
+    const QString 条件 = h.保持鍵().条件(鍵の列::T出金明細表付);
     // Each stored line with its history row; the rows are read to the end before the first is
     // written, so no cursor stands on a table that is being deleted from.
     QList<std::pair<QString, QString>> 行と履歴;
@@ -352,7 +352,7 @@ void 出金セッション::出金明細履歴書込() {
     for (const auto& [固有行No, 文] : 行と履歴) {
         挿入結果(データ.業務DB実行(文));
         削除結果(データ.業務DB実行(u"DELETE FROM T出金明細"_qs +
-                                   明細鍵{h.保持鍵(), 固有行No}.条件(鍵列::T出金明細表付)));
+                                   明細鍵{h.保持鍵(), 固有行No}.条件(鍵の列::T出金明細表付)));
     }
 }
 

@@ -57,8 +57,8 @@ TEST_P(出金No一覧, 入力画面から開くと一年前からの新しい順
         EXPECT_EQ(x.一覧().項目.value(0).Key, u"C00020260331"_qs + 秋);
         // The base-date restriction stays while the window is up.
         EXPECT_EQ(s.一覧条件文字列, u"T出金.番号基準日付 <> ''"_qs);
-        x.画面.操作_キー(x.一覧(), 40);
-        x.画面.操作_キー(x.一覧(), 13);
+        x.画面.操作_キー(x.一覧(), キーコード::Down);
+        x.画面.操作_キー(x.一覧(), キーコード::Enter);
     };
     開く();
     // Numbers count per fiscal year: the old slip has the same number in another base date.
@@ -86,8 +86,8 @@ TEST_P(出金No一覧, 見出しで並べ替えて選んでも次に開くと文
         if (回++ == 0) {
             x.画面.操作_列クリック(L, 1);  // 出金日付, oldest first
             並べ替え後 = 列(x);
-            x.画面.操作_キー(L, 40);
-            x.画面.操作_キー(L, 13);
+            x.画面.操作_キー(L, キーコード::Down);
+            x.画面.操作_キー(L, キーコード::Enter);
             return;
         }
         二回目 = 列(x);
@@ -97,7 +97,7 @@ TEST_P(出金No一覧, 見出しで並べ替えて選んでも次に開くと文
         // As on a first opening: the first column is the key, so its heading turns the order.
         x.画面.操作_列クリック(L, 0);
         見出し後 = 列(x);
-        x.画面.操作_キー(L, 27);
+        x.画面.操作_キー(L, キーコード::Esc);
     };
     開く();
     EXPECT_EQ(並べ替え後, (QStringList{前, 後}));
@@ -227,8 +227,8 @@ TEST_P(出金No一覧, Escで戻ると条件は空になり番号はそのまま
     保存(u"20251101"_qs, u"00003"_qs, 1000);
     c(u"出金No"_qs).Text = u"123"_qs;
     操作[u"wnd出金No一覧"_qs] = [&](一覧画面& x) {
-        x.画面.操作_キー(x.一覧(), 40);
-        x.画面.操作_キー(x.一覧(), 27);
+        x.画面.操作_キー(x.一覧(), キーコード::Down);
+        x.画面.操作_キー(x.一覧(), キーコード::Esc);
     };
     開く();
     EXPECT_TRUE(s.一覧条件文字列.isEmpty());
@@ -239,10 +239,10 @@ TEST_P(出金No一覧, Escで戻ると条件は空になり番号はそのまま
 
 TEST_P(出金No一覧, 担当者コードでCtrlを押すと担当者一覧が入れ子で開く) {
     操作[u"wnd担当者一覧"_qs] = [&](一覧画面& x) {
-        x.画面.操作_キー(x.一覧(), 40);
-        x.画面.操作_キー(x.一覧(), 40);
-        x.画面.操作_キー(x.一覧(), 40);
-        x.画面.操作_キー(x.一覧(), 13);
+        x.画面.操作_キー(x.一覧(), キーコード::Down);
+        x.画面.操作_キー(x.一覧(), キーコード::Down);
+        x.画面.操作_キー(x.一覧(), キーコード::Down);
+        x.画面.操作_キー(x.一覧(), キーコード::Enter);
     };
     操作[u"wnd出金No一覧"_qs] = [&](一覧画面& x) {
         x.画面.操作_ダブルクリック(x.画面(u"担当者コード"_qs));
