@@ -19,15 +19,15 @@ namespace 欄 = 一覧部品;
     画面.作る(表);
     一覧部品 = &画面(一覧名);
     // Esc reaches the window before any control: it is the way back.
-    画面.KeyPreview = [this](int キー) {
-        if (キー != 27) return false;
+    画面.KeyPreview = [this](キーコード キー) {
+        if (キー != キーコード::Esc) return false;
         戻る();
         return true;
     };
     部品& L = 一覧();
     L.DblClick = [this] { 選ぶ(); };
-    L.KeyDown = [this](int キー) {
-        if (キー == 13) 選ぶ();
+    L.KeyDown = [this](キーコード キー) {
+        if (キー == キーコード::Enter) 選ぶ();
     };
     L.ColumnClick = [this](int 列番号) { 列見出しクリック(列番号); };
     // A key must not be purely numeric; it is made when a pick asks for it.
@@ -127,8 +127,8 @@ void 一覧画面::欄を結ぶ(QList<条件欄> 欄群, QList<区分欄> 区分
             const auto 開く = [this, &p, 名前 = e.名前] {
                 if (主.状態.入力中項目 == &p) 入れ子一覧(*欄(名前));
             };
-            p.KeyDown = [開く](int キー) {
-                if (キー == 17) 開く();
+            p.KeyDown = [開く](キーコード キー) {
+                if (キー == キーコード::Ctrl) 開く();
             };
             p.DblClick = 開く;
         }

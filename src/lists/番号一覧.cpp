@@ -1,9 +1,8 @@
 #include "lists/番号一覧.h"
 #include "lists/一覧部品名.h"
 
-#include <QStringBuilder>
-
 #include "dataenv/データ環境.h"
+#include "slip/伝票鍵.h"
 #include "slip/出金セッション.h"
 #include "text/項目編集.h"
 
@@ -98,8 +97,7 @@ QString 番号一覧::検索文作成() {
 void 番号一覧::項目を加える(記録集合& rs, QStringList 欄群) {
     一覧項目 項;
     項.Text = rs.文字列(2);
-    // The document's key without separators: office, number base date, number.
-    項.Key = u"C"_qs % rs.文字列(0) % rs.文字列(1) % 項.Text;
+    項.Key = 伝票鍵{rs.文字列(0), rs.文字列(1), 項.Text}.一覧の文字列();
     項.SubItems = std::move(欄群);
     一覧().項目追加(std::move(項));
 }

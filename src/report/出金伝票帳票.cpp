@@ -4,6 +4,7 @@
 
 #include "report/帳票指定.h"
 #include "rules/番号設定.h"
+#include "slip/伝票鍵.h"
 
 namespace {
 
@@ -34,9 +35,7 @@ bool 出金伝票読込(出金セッション& s, const 帳票指定& 指定, �
     const QString 基準日付 = 番号基準日付取得(d, 番号定数::出金番号ID.toString(), 指定.出金日付自);
     記録集合 rs;
     const QString 文 = u"SELECT TOP 1"_qs + 出金見出し列 + 出金見出し結合 +
-                       u" WHERE T出金.出金No = '"_qs + 指定.出金No自 + u"'"_qs +
-                       u" AND T出金.事業所コード = '"_qs + 指定.事業所コード + u"'"_qs +
-                       u" AND T出金.番号基準日付 = '"_qs + 基準日付 + u"'"_qs +
+                       伝票鍵{指定.事業所コード, 基準日付, 指定.出金No自}.条件(鍵の列::T出金読込) +
                        u" AND T出金.出金日付 = '"_qs + 指定.出金日付自 + u"'"_qs;
     if (基準日付.isEmpty() || !d.業務DB検索(rs, 文)) {
         rs.閉じる();

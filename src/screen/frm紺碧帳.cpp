@@ -91,8 +91,8 @@ void frm紺碧帳::事象を結ぶ() {
                                                 {欄::出張申請No, 欄::btn_出張申請No}};
     for (const auto& [名, 釦] : 一覧欄) {
         部品& p = 画面(名);
-        p.KeyDown = [this, &p](int キー) {
-            if (キー == 17) 一覧を開く(p.名前);
+        p.KeyDown = [this, &p](キーコード キー) {
+            if (キー == キーコード::Ctrl) 一覧を開く(p.名前);
         };
         if (!(名 == 欄::出張申請No)) {
             p.DblClick = [this, &p] {

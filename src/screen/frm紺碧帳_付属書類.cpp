@@ -5,6 +5,7 @@
 #include "rules/番号設定.h"
 #include "screen/frm紺碧帳.h"
 #include "screen/frm紺碧帳_部品名.h"
+#include "slip/伝票鍵.h"
 #include "slip/出金付属書類.h"
 #include "text/プラットフォーム.h"
 
@@ -25,9 +26,10 @@ const QString 書類絞込 = u"全てのファイル (*.*)|*.*|"_qs + u"ワー�
 QString frm紺碧帳::付属書類識別ID() {
     const QString 日付 =
         画面(欄::出金日付年).Text + 画面(欄::出金日付月).Text + 画面(欄::出金日付日).Text;
-    return s.見出し.事業所コード +
-           番号基準日付取得(s.データ, 番号定数::出金番号ID.toString(), 日付) +
-           画面(欄::出金No).Text;
+    return 伝票鍵{s.見出し.事業所コード,
+                  番号基準日付取得(s.データ, 番号定数::出金番号ID.toString(), 日付),
+                  画面(欄::出金No).Text}
+        .文字列();
 }
 
 QString frm紺碧帳::選択中の付属書類() {

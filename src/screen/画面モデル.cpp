@@ -285,22 +285,22 @@ void 画面モデル::操作_ダブルクリック(部品& 先) {
 namespace {
 
 // Where a navigation key takes the selection of a list view showing so many rows a page.
-int 移動先(const 部品& p, int キーコード) {
+int 移動先(const 部品& p, キーコード キー) {
     const int 最後 = static_cast<int>(p.項目.size()) - 1;
     const int 頁 = 10;
     const int 今 = p.選択;
-    switch (キーコード) {
-        case 38:  // up
+    switch (キー) {
+        case キーコード::Up:
             return 今 < 0 ? 0 : qMax(0, 今 - 1);
-        case 40:  // down
+        case キーコード::Down:
             return 今 < 0 ? 0 : qMin(最後, 今 + 1);
-        case 33:  // page up
+        case キーコード::PageUp:
             return qMax(0, 今 - 頁);
-        case 34:  // page down
+        case キーコード::PageDown:
             return 今 < 0 ? qMin(最後, 頁) : qMin(最後, 今 + 頁);
-        case 36:  // home
+        case キーコード::Home:
             return 0;
-        case 35:  // end
+        case キーコード::End:
             return 最後;
         default:
             return 今;
@@ -309,17 +309,17 @@ int 移動先(const 部品& p, int キーコード) {
 
 }  // namespace
 
-void 画面モデル::操作_キー(部品& 先, int キーコード) {
-    const QString 鍵 = u"キー "_qs + QString::number(キーコード);
+void 画面モデル::操作_キー(部品& 先, キーコード キー) {
+    const QString 鍵 = u"キー "_qs + QString::number(static_cast<int>(キー));
     if (現在 != &先) 操作で移す(先, 鍵);
     const QString 外 = 操作原因;
     if (焦点記録::有効()) 操作原因 = 鍵;
     bool 済 = false;
-    if (KeyPreview) 呼ぶ(nullptr, u"KeyPreview", [&] { 済 = KeyPreview(キーコード); });
-    if (!済 && 先.KeyDown) 呼ぶ(&先, u"KeyDown", [&] { 先.KeyDown(キーコード); });
+    if (KeyPreview) 呼ぶ(nullptr, u"KeyPreview", [&] { 済 = KeyPreview(キー); });
+    if (!済 && 先.KeyDown) 呼ぶ(&先, u"KeyDown", [&] { 先.KeyDown(キー); });
     操作原因 = 外;
     if (!済 && 先.種別 == 部品種別::ListView && 現在 == &先 && !先.項目.isEmpty()) {
-        先.選択 = 移動先(先, キーコード);
+        先.選択 = 移動先(先, キー);
     }
     待ちを処理();
 }

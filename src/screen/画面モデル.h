@@ -79,7 +79,7 @@ class 画面モデル {
     void 操作_ダブルクリック(部品& 先);
     // A key goes to the window first (KeyPreview), then to the control. In a list view the
     // arrow, page, Home and End keys move the selected row once the control has seen them.
-    void 操作_キー(部品& 先, int キーコード);
+    void 操作_キー(部品& 先, キーコード キー);
     // A row of a list view clicked (the list takes the focus and the row is selected), double
     // clicked (then the list's double click runs), or a column heading clicked.
     void 操作_項目選択(部品& 先, int 行);
@@ -94,7 +94,7 @@ class 画面モデル {
     // passes to the caller.
     std::function<void(const std::exception&)> 異常時;
     // The window's own look at every key before its control; true when it dealt with the key.
-    std::function<bool(int)> KeyPreview;
+    std::function<bool(キーコード)> KeyPreview;
 
     // Writes to the controls without their events reading it back as input: while the screen
     // is being drawn, no event of a control runs, except those of a control that takes events

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <functional>
 
+#include "text/キーコード.h"
+
 class 画面モデル;
 
 // The classes of control a screen is made of; their names are what the focus walk tests.
@@ -133,7 +135,7 @@ struct 部品 {
     std::function<void()> Click;
     std::function<void()> DblClick;
     std::function<void()> Change;
-    std::function<void(int)> KeyDown;
+    std::function<void(キーコード)> KeyDown;
     std::function<void(int)> ColumnClick;  // a list view's heading, counted from 1
 
     // Name and index as the focus trace prints them: "出金金額(0)".

@@ -12,14 +12,16 @@ namespace {
                     [&e](const QString& 文) { return e.連携DB実行(文); }, e.基盤, e.会社);
 }
 
-// A pick from the trip list leaves its row's key: "C", office, number base date, number.
-bool 一覧の鍵か(const QString& 条件) {
-    return 条件.size() == 20 && !条件.contains(u"出張申請"_qs);
+// A pick from the trip list leaves its row's key: "C", office, number base date, number. An
+// SQL condition left by another list is none.
+std::optional<伝票鍵> 一覧の鍵(const QString& 条件) {
+    if (条件.contains(u"出張申請"_qs)) return std::nullopt;
+    return 一覧の伝票鍵(条件);
 }
 
 }  // namespace
 
-bool 出金セッション::出張申請確定(const QString& 入力No, std::optional<QString>& 一覧の鍵) {
+bool 出金セッション::出張申請確定(const QString& 入力No, std::optional<QString>& 答え) {
     if (入力No == 見出し.出張申請No) return false;
     const 出金見出し 元見出し = 見出し;
     const auto 元行 = 行;
@@ -28,7 +30,7 @@ bool 出金セッション::出張申請確定(const QString& 入力No, std::opt
     const bool 元変更 = 入力変更フラグ;
     const QString 元文言 = お知らせ文言;
     try {
-        return 出張申請適用(入力No, 一覧の鍵);
+        return 出張申請適用(入力No, 答え);
     } catch (const 実行時エラー&) {
         // The slip goes back whole, so that no half-taken application can be stored.
         見出し = 元見出し;
@@ -41,7 +43,7 @@ bool 出金セッション::出張申請確定(const QString& 入力No, std::opt
     }
 }
 
-bool 出金セッション::出張申請適用(const QString& 入力No, std::optional<QString>& 一覧の鍵) {
+bool 出金セッション::出張申請適用(const QString& 入力No, std::optional<QString>& 答え) {
     auto& h = 見出し;
     入力変更フラグ = true;
     if (入力No.isEmpty()) {
@@ -51,25 +53,19 @@ bool 出金セッション::出張申請適用(const QString& 入力No, std::opt
         return true;
     }
 
-    QString 事業所 = h.出張申請事業所コード;
-    QString 基準日付 = h.出張申請番号基準日付;
-    if (const QString 鍵 = 一覧の鍵.value_or(QString()).trimmed(); 一覧の鍵か(鍵)) {
-        事業所 = 鍵.mid(1, 3);
-        基準日付 = 鍵.mid(4, 8);
-        一覧の鍵.reset();
+    auto 鍵 = h.出張申請鍵().番号替え(入力No);
+    if (const auto 選んだ鍵 = 一覧の鍵(答え.value_or(QString()).trimmed())) {
+        鍵 = 選んだ鍵->番号替え(入力No);
+        答え.reset();
     }
-    QString 文 = u"SELECT T出張申請.*"_qs + u" FROM T出張申請"_qs +
-                 u" WHERE T出張申請.事業所コード = '"_qs + 事業所 + u"'"_qs +
-                 u" AND T出張申請.出張申請No = '"_qs + 入力No + u"'"_qs;
-    if (基準日付.isEmpty()) {
+    if (鍵.番号基準日付.isEmpty()) {
         // A typed number belongs to the period of the slip date.
-        基準日付 = 連携番号基準日付取得(連携番号環境(データ), 番号定数::出張申請番号ID.toString(),
-                                        h.出金日付, 事業所);
+        鍵.番号基準日付 = 連携番号基準日付取得(
+            連携番号環境(データ), 番号定数::出張申請番号ID.toString(), h.出金日付, 鍵.事業所コード);
     }
-    文 += u" AND T出張申請.番号基準日付 = '"_qs + 基準日付 + u"'"_qs;
-
     記録集合 rs;
-    if (!データ.連携DB検索(rs, 文)) {
+    if (!データ.連携DB検索(
+            rs, u"SELECT T出張申請.*"_qs + u" FROM T出張申請"_qs + 鍵.条件(鍵の列::T出張申請))) {
         rs.閉じる();
         h.出張申請事業所コード.clear();
         h.出張申請番号基準日付.clear();
@@ -94,10 +90,7 @@ void 出金セッション::旅費明細取込() {
     const QString 文 =
         u"SELECT T出張旅費.*,K旅費区分.名称 AS 旅費区分名,K旅費区分.費目区分"_qs +
         u" FROM K旅費区分 INNER JOIN T出張旅費 ON K旅費区分.区分 = T出張旅費.旅費区分"_qs +
-        u" WHERE T出張旅費.事業所コード = '"_qs + h.出張申請事業所コード +
-        u"' AND T出張旅費.番号基準日付 = '"_qs + h.出張申請番号基準日付 +
-        u"' AND T出張旅費.出張申請No = '"_qs + h.出張申請No + u"'"_qs +
-        u" ORDER BY T出張旅費.旅費行No"_qs;
+        h.出張申請鍵().条件(鍵の列::T出張旅費) + u" ORDER BY T出張旅費.旅費行No"_qs;
     記録集合 rs;
     if (データ.連携DB検索(rs, 文)) {
         // No limit of its own: a sixteenth row takes the spare slot, a seventeenth ends the

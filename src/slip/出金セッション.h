@@ -7,6 +7,7 @@
 
 #include "dataenv/データ環境.h"
 #include "rules/消費税計算.h"
+#include "slip/伝票鍵.h"
 #include "text/金額.h"
 
 // The slip header in memory. The kept fields remember the stored key and date as loaded, so that
@@ -48,6 +49,17 @@ struct 出金見出し {
     QString 出金履歴No;
     QString 旧出金履歴No;
     short 最大固有行No = 0;
+
+    伝票鍵 鍵() const { return {事業所コード, 番号基準日付, 出金No}; }
+    // The key the slip is stored under, as loaded.
+    伝票鍵 保持鍵() const { return {保持事業所コード, 保持番号基準日付, 保持出金No}; }
+    伝票鍵 出張申請鍵() const { return {出張申請事業所コード, 出張申請番号基準日付, 出張申請No}; }
+    // The date's three fields as the screen shows them, cut from 出金日付.
+    void 出金日付を分ける() {
+        出金日付年 = 出金日付.mid(0, 4);
+        出金日付月 = 出金日付.mid(4, 2);
+        出金日付日 = 出金日付.mid(6, 2);
+    }
 };
 
 // The totals of the slip, added up from its lines after each change and overwritten on load.
@@ -128,8 +140,7 @@ class 出金セッション {
     void 出金合計初期化();
 
     // Loading stored slips and stepping between them.
-    bool 出金キー検索(const QString& 事業所コード, const QString& 番号基準日付,
-                      const QString& 出金No);
+    bool 出金キー検索(const ::伝票鍵& 鍵);
     void 出金見出し読込();
     // The same from a header row of another query, which is closed afterwards.
     void 出金見出し読込(記録集合& 結果);
@@ -138,7 +149,7 @@ class 出金セッション {
     // A number typed or picked into 出金No. A pick from the number list hands its row's key
     // ("C", office, number base date, number), which gives office and base date; the key is
     // taken (emptied) when it serves.
-    bool 出金No確定(const QString& 入力No, std::optional<QString>& 一覧の鍵);
+    bool 出金No確定(const QString& 入力No, std::optional<QString>& 答え);
     bool 出金No確定(const QString& 入力No) {
         std::optional<QString> 無し;
         return 出金No確定(入力No, 無し);
@@ -161,7 +172,7 @@ class 出金セッション {
     // The trip application typed or picked into 出張申請No, read from the HR link: its key to the
     // three reference fields and, on a slip without lines, its expense rows as lines. False
     // when the number is the one held. A run-time error part-way puts the slip back as it was.
-    bool 出張申請確定(const QString& 入力No, std::optional<QString>& 一覧の鍵);
+    bool 出張申請確定(const QString& 入力No, std::optional<QString>& 答え);
     bool 出張申請確定(const QString& 入力No) {
         std::optional<QString> 無し;
         return 出張申請確定(入力No, 無し);
@@ -170,8 +181,8 @@ class 出金セッション {
 
     // The nine totals added up from the lines in use.
     void 合計再計算();
-    // The slip key as one text of 19 characters: office, number base date, number.
-    QString 伝票鍵() const { return 見出し.事業所コード + 見出し.番号基準日付 + 見出し.出金No; }
+    // The key of the slip on screen (it may not be stored yet).
+    ::伝票鍵 伝票鍵() const { return 見出し.鍵(); }
 
     // The slip date as typed: repaired, and what hangs on it derived again (number period,
     // proposal, aggregate date, tax rates).
@@ -235,7 +246,7 @@ class 出金セッション {
     void 挿入結果(bool 成功);
     void 削除結果(bool 成功);
     bool 隣接読込(bool 前);
-    bool 出張申請適用(const QString& 入力No, std::optional<QString>& 一覧の鍵);
+    bool 出張申請適用(const QString& 入力No, std::optional<QString>& 答え);
     void 日程連携更新(const QString& 設定);
 
     記録集合 見出し結果;  // open between 出金キー検索 and 出金見出し読込

@@ -4,7 +4,7 @@
 #include "slip/出金セッション.h"
 
 QString 出金付属書類ID(const 出金セッション& s) {
-    return s.見出し.事業所コード + s.見出し.番号基準日付 + s.見出し.出金No;
+    return s.伝票鍵().文字列();
 }
 
 付属書類項目 出金付属書類項目(const 出金セッション& s) {

@@ -206,19 +206,18 @@ bool 出金セッション::確定を確かめる(const 保存前控え& 控え)
 bool 出金セッション::番号採番確認() {
     auto& h = 見出し;
     const QString 番号ID = 番号定数::出金番号ID.toString();
-    const QString 条件 = u" WHERE 事業所コード = '"_qs + h.事業所コード +
-                         u"' AND 番号基準日付 = '"_qs + h.番号基準日付 + u"' AND 出金No = '"_qs;
     if (!次番号参照(データ, 番号ID, h.番号基準日付, h.事業所コード).isEmpty()) {
         // Another user may store between the take and the look: take again until unused.
         h.出金No = 未使用番号採番(
             [&] { return 次番号採番(データ, 番号ID, h.番号基準日付, h.事業所コード); },
             [&](const QString& No) {
-                return 行あり(u"SELECT TOP 1 出金No FROM T出金"_qs + 条件 + No + u"'"_qs);
+                return 行あり(u"SELECT TOP 1 出金No FROM T出金"_qs +
+                              h.鍵().番号替え(No).条件(鍵の列::T出金));
             });
         return true;
     }
     // A number typed by hand is refused when it is stored already.
-    if (行あり(u"SELECT  TOP 1 出金No FROM T出金"_qs + 条件 + h.出金No + u"'"_qs)) {
+    if (行あり(u"SELECT  TOP 1 出金No FROM T出金"_qs + h.鍵().条件(鍵の列::T出金))) {
         処理結果区分 = 3;
         処理結果メッセージ = 登録失敗文言;
         return false;
@@ -232,9 +231,8 @@ QString 出金セッション::出金履歴No採番() {
     return 未使用番号採番(
         [&] { return 次履歴番号採番(データ, 番号ID, h.番号基準日付, h.事業所コード); },
         [&](const QString& No) {
-            return 行あり(u"SELECT TOP 1 出金No FROM R出金"_qs + u" WHERE 事業所コード = '"_qs +
-                          h.事業所コード + u"' AND 番号基準日付 = '"_qs + h.番号基準日付 +
-                          u"' AND 出金履歴No = '"_qs + No + u"'"_qs);
+            return 行あり(u"SELECT TOP 1 出金No FROM R出金"_qs +
+                          h.鍵().番号替え(No).条件(鍵の列::R出金履歴));
         });
 }
 
@@ -313,9 +311,7 @@ void 出金セッション::出金履歴書込() {
     // The number is taken before the row is known to exist, so a slip gone meanwhile still
     // advances the history sequence.
     h.旧出金履歴No = 出金履歴No採番();
-    const QString 条件 = u" WHERE 事業所コード = '"_qs + h.保持事業所コード + u"'"_qs +
-                         u" AND 番号基準日付 = '"_qs + h.保持番号基準日付 + u"'"_qs +
-                         u" AND 出金No = '"_qs + h.保持出金No + u"'"_qs;
+    const QString 条件 = h.保持鍵().条件(鍵の列::T出金);
     記録集合 rs;
     if (!データ.業務DB検索(rs, u"SELECT * FROM T出金"_qs + 条件)) {
         rs.閉じる();
@@ -332,9 +328,7 @@ void 出金セッション::出金履歴書込() {
 
 void 出金セッション::出金明細履歴書込() {
     const auto& h = 見出し;
-    const QString 条件 = u" WHERE T出金明細.事業所コード = '"_qs + h.保持事業所コード +
-                         u"' AND T出金明細.番号基準日付 = '"_qs + h.保持番号基準日付 +
-                         u"' AND T出金明細.出金No = '"_qs + h.保持出金No + u"'"_qs;
+    const QString 条件 = h.保持鍵().条件(鍵の列::T出金明細表付);
     // Each stored line with its history row; the rows are read to the end before the first is
     // written, so no cursor stands on a table that is being deleted from.
     QList<std::pair<QString, QString>> 行と履歴;
@@ -357,8 +351,8 @@ void 出金セッション::出金明細履歴書込() {
     }
     for (const auto& [固有行No, 文] : 行と履歴) {
         挿入結果(データ.業務DB実行(文));
-        削除結果(データ.業務DB実行(u"DELETE FROM T出金明細"_qs + 条件 +
-                                   u" AND T出金明細.出金固有行No = '"_qs + 固有行No + u"'"_qs));
+        削除結果(データ.業務DB実行(u"DELETE FROM T出金明細"_qs +
+                                   明細鍵{h.保持鍵(), 固有行No}.条件(鍵の列::T出金明細表付)));
     }
 }
 

@@ -39,22 +39,19 @@ void 行を写す(const 記録集合& rs, 出金行& r) {
 
 }  // namespace
 
-bool 出金セッション::出金キー検索(const QString& 事業所コード, const QString& 番号基準日付,
-                                  const QString& 出金No) {
+bool 出金セッション::出金キー検索(const ::伝票鍵& 鍵) {
     // Recorded before the read, so a look-up of a number that does not exist is recorded too.
     閲覧記録指定 閲覧;
     閲覧.事業所コード = 見出し.事業所コード;
     閲覧.担当者名 = データ.操作者.氏名;
     閲覧.プログラム名 = u"紺碧帳"_qs;
-    閲覧.伝票事業所コード = 事業所コード;
-    閲覧.伝票番号基準日付 = 番号基準日付;
-    閲覧.伝票No = 出金No;
+    閲覧.伝票事業所コード = 鍵.事業所コード;
+    閲覧.伝票番号基準日付 = 鍵.番号基準日付;
+    閲覧.伝票No = 鍵.番号;
     閲覧記録(データ, 閲覧);
 
-    const QString 文 = u"SELECT TOP 1"_qs + 出金見出し列 + 出金見出し結合 +
-                       u" WHERE T出金.出金No = '"_qs + 出金No + u"'"_qs +
-                       u" AND T出金.事業所コード = '"_qs + 事業所コード + u"'"_qs +
-                       u" AND T出金.番号基準日付 = '"_qs + 番号基準日付 + u"'"_qs;
+    const QString 文 =
+        u"SELECT TOP 1"_qs + 出金見出し列 + 出金見出し結合 + 鍵.条件(鍵の列::T出金読込);
     return データ.業務DB検索(見出し結果, 文, true);
 }
 
@@ -69,9 +66,7 @@ void 出金セッション::出金見出し読込(記録集合& rs) {
     if (!rs.Null(u"出金No"_qs)) h.出金No = h.保持出金No = rs.文字列(u"出金No"_qs);
     if (!rs.Null(u"出金日付"_qs)) {
         h.出金日付 = rs.文字列(u"出金日付"_qs);
-        h.出金日付年 = h.出金日付.mid(0, 4);
-        h.出金日付月 = h.出金日付.mid(4, 2);
-        h.出金日付日 = h.出金日付.mid(6, 2);
+        h.出金日付を分ける();
         h.保持出金日付 = h.出金日付;
     }
     if (!rs.Null(u"番号基準日付"_qs)) {
@@ -114,10 +109,8 @@ void 出金セッション::出金明細読込() {
     最終行 = -1;
     見出し.最大固有行No = 0;
     記録集合 rs;
-    const QString 文 = 明細文 + 明細結合 + u" WHERE T出金明細.事業所コード = '"_qs +
-                       見出し.事業所コード + u"' AND T出金明細.番号基準日付 = '"_qs +
-                       見出し.番号基準日付 + u"' AND T出金明細.出金No = '"_qs + 見出し.出金No +
-                       u"'"_qs + u" ORDER BY T出金明細.出金行No"_qs;
+    const QString 文 = 明細文 + 明細結合 + 見出し.鍵().条件(鍵の列::T出金明細表付) +
+                       u" ORDER BY T出金明細.出金行No"_qs;
     if (データ.業務DB検索(rs, 文)) {
         for (; !rs.EOFか(); rs.MoveNext()) {
             // Every stored line comes in, a sixteenth imported one into the spare slot; rows
@@ -155,7 +148,7 @@ void 出金セッション::出金検索破棄() {
     出金情報初期化();
 }
 
-bool 出金セッション::出金No確定(const QString& 入力No, std::optional<QString>& 一覧の鍵) {
+bool 出金セッション::出金No確定(const QString& 入力No, std::optional<QString>& 答え) {
     if (入力No == 見出し.出金No) return false;
     入力変更フラグ = true;
     QString 文言;
@@ -163,16 +156,14 @@ bool 出金セッション::出金No確定(const QString& 入力No, std::optiona
         見出し.出金No = 次番号参照(データ, 番号定数::出金番号ID.toString(), 見出し.番号基準日付,
                                    見出し.事業所コード);
     } else {
-        QString 事業所 = 見出し.事業所コード;
-        QString 基準日付 = 見出し.番号基準日付;
-        // A key of the slip No list, but never one of the description list's lines.
-        const QString 鍵 = 一覧の鍵.value_or(QString()).trimmed();
-        if (鍵.size() == 20 && !鍵.contains(u"出金"_qs)) {
-            事業所 = 鍵.mid(1, 3);
-            基準日付 = 鍵.mid(4, 8);
-            一覧の鍵.reset();
+        auto 鍵 = 見出し.鍵().番号替え(入力No);
+        // A key of the slip No list, but never another list's answer.
+        const QString 条件 = 答え.value_or(QString()).trimmed();
+        if (const auto 一覧の鍵 = 一覧の伝票鍵(条件); 一覧の鍵 && !条件.contains(u"出金"_qs)) {
+            鍵 = 一覧の鍵->番号替え(入力No);
+            答え.reset();
         }
-        if (出金キー検索(事業所, 基準日付, 入力No)) {
+        if (出金キー検索(鍵)) {
             出金見出し読込();
             出金明細初期化();
             出金明細読込();
@@ -235,7 +226,7 @@ bool 出金セッション::隣接読込(bool 前) {
     const QString No = rs.文字列(u"出金No"_qs);
     rs.閉じる();
     if (!あり) return false;
-    if (出金キー検索(見出し.事業所コード, 基準日付, No)) {
+    if (出金キー検索({見出し.事業所コード, 基準日付, No})) {
         出金見出し読込();
         出金明細初期化();
         出金明細読込();
@@ -250,10 +241,7 @@ bool 出金セッション::隣接読込(bool 前) {
 
 bool 出金セッション::過去明細取込(const QString& 鍵, int 位置) {
     記録集合 rs;
-    const QString 文 = 明細文 + 明細結合 + u" WHERE 事業所コード = '"_qs + 鍵.mid(0, 3) + u"'"_qs +
-                       u" AND 番号基準日付 = '"_qs + 鍵.mid(3, 8) + u"'"_qs +
-                       u" AND 出金No = '"_qs + 鍵.mid(11, 8) + u"'"_qs +
-                       u" AND 出金固有行No = '"_qs + 鍵.mid(19, 3) + u"'"_qs;
+    const QString 文 = 明細文 + 明細結合 + 明細鍵を切り出す(鍵).条件(鍵の列::T出金明細);
     const bool あり = データ.業務DB検索(rs, 文);
     if (あり) {
         出金行& r = 行[位置];

@@ -6,9 +6,7 @@ const QString 修正失敗文言 = u"既に削除されています。修正で�
 
 // The schedule rows that point at the slip as it is stored: always by the kept key.
 QString 連携条件(const 出金見出し& h) {
-    return u" WHERE 出金事業所コード = '"_qs + h.保持事業所コード + u"'"_qs +
-           u" AND 出金番号基準日付 = '"_qs + h.保持番号基準日付 + u"'"_qs + u" AND 出金No = '"_qs +
-           h.保持出金No + u"'"_qs;
+    return h.保持鍵().条件(鍵の列::T営業活動明細);
 }
 
 }  // namespace
@@ -22,15 +20,12 @@ bool 出金セッション::日程連携確認() {
 }
 
 void 出金セッション::日程連携書換() {
-    const auto& h = 見出し;
-    日程連携更新(u" [出金事業所コード] = '"_qs + h.事業所コード + u"'"_qs +
-                 u",[出金番号基準日付] = '"_qs + h.番号基準日付 + u"'"_qs + u",[出金No] = '"_qs +
-                 h.出金No + u"'"_qs);
+    日程連携更新(見出し.鍵().設定(鍵の列::T営業活動明細));
 }
 
 void 出金セッション::日程連携解除() {
-    日程連携更新(u" [出金事業所コード] = ''"_qs + u",[出金番号基準日付] = ''"_qs +
-                 u",[出金No] = ''"_qs);
+    // An empty key in each column: the row no longer points at any slip.
+    日程連携更新(::伝票鍵{}.設定(鍵の列::T営業活動明細));
 }
 
 // The linked rows are read to the end first and then updated one by one, in the order of the

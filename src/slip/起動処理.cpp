@@ -143,7 +143,7 @@ void 紺碧帳起動::伝票読込() {
 
 void 紺碧帳起動::起動キー読込() {
     // A key that is not stored gives a plain new slip, without a word.
-    if (!s.出金キー検索(s.見出し.事業所コード, s.見出し.番号基準日付, s.見出し.出金No)) {
+    if (!s.出金キー検索(s.伝票鍵())) {
         s.出金検索破棄();
         return;
     }
@@ -158,9 +158,7 @@ void 紺碧帳起動::起動条件読込() {
     if (数値変換(h.出金日付) == 0) {
         今日の出金日付();
     } else {
-        h.出金日付年 = h.出金日付.mid(0, 4);
-        h.出金日付月 = h.出金日付.mid(4, 2);
-        h.出金日付日 = h.出金日付.mid(6, 2);
+        h.出金日付を分ける();
     }
     s.出金日付確定();
     if (h.担当者コード.trimmed().isEmpty()) return;

@@ -16,6 +16,8 @@
 #include <QTreeWidget>
 #include <QValidator>
 
+#include "text/キーコード.h"
+
 namespace {
 
 constexpr int 画素(int twips) {
@@ -95,36 +97,36 @@ QWidget* 作成(部品& p, QWidget* 親) {
     return nullptr;
 }
 
-// The key codes the model knows: Ctrl anywhere, Esc for the window, and in a list view Enter and
-// the keys that move its selection. 0 for every other key.
-int 仮想キー(int キー, 部品種別 種別) {
+// The keys the model knows: Ctrl anywhere, Esc for the window, and in a list view Enter and the
+// keys that move its selection. なし for every other key.
+キーコード 仮想キー(int キー, 部品種別 種別) {
     switch (キー) {
         case Qt::Key_Control:
-            return 17;
+            return キーコード::Ctrl;
         case Qt::Key_Escape:
-            return 27;
+            return キーコード::Esc;
         default:
             break;
     }
-    if (種別 != 部品種別::ListView) return 0;
+    if (種別 != 部品種別::ListView) return キーコード::なし;
     switch (キー) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            return 13;
+            return キーコード::Enter;
         case Qt::Key_PageUp:
-            return 33;
+            return キーコード::PageUp;
         case Qt::Key_PageDown:
-            return 34;
+            return キーコード::PageDown;
         case Qt::Key_End:
-            return 35;
+            return キーコード::End;
         case Qt::Key_Home:
-            return 36;
+            return キーコード::Home;
         case Qt::Key_Up:
-            return 38;
+            return キーコード::Up;
         case Qt::Key_Down:
-            return 40;
+            return キーコード::Down;
         default:
-            return 0;
+            return キーコード::なし;
     }
 }
 
@@ -319,9 +321,9 @@ bool ScreenWindow::eventFilter(QObject* 対象, QEvent* 事象) {
                 操作([this, 逆] { 逆 ? m.操作_ShiftTab() : m.操作_Tab(); });
                 return true;
             }
-            if (const int 符号 = 仮想キー(k->key(), p->種別); 符号 != 0) {
-                操作([this, p, 符号] { m.操作_キー(*p, 符号); });
-                return 符号 != 17;
+            if (const キーコード キー = 仮想キー(k->key(), p->種別); キー != キーコード::なし) {
+                操作([this, p, キー] { m.操作_キー(*p, キー); });
+                return キー != キーコード::Ctrl;
             }
             break;
         }

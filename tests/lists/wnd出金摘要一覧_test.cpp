@@ -114,7 +114,7 @@ TEST_P(出金摘要一覧, 列の並べ替えの後も行の鍵は読んだ順�
     std::optional<QString> 答え;
     操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
         部品& L = x.一覧();
-        x.画面.操作_キー(L, 40);  // the first row, "あいう"
+        x.画面.操作_キー(L, キーコード::Down);  // the first row, "あいう"
         // The one column is already the sort key, so a click on it turns the order round.
         x.画面.操作_列クリック(L, 0);
         EXPECT_EQ(L.セル(0, 0), u"いろは"_qs);
@@ -122,9 +122,9 @@ TEST_P(出金摘要一覧, 列の並べ替えの後も行の鍵は読んだ順�
         EXPECT_EQ(L.選択, 1);
         EXPECT_EQ(L.鍵(0), A() ? u"C00000000002いろは"_qs : u"Cいろは"_qs);
         EXPECT_EQ(L.鍵(1), A() ? u"C00000000001あいう"_qs : u"Cあいう"_qs);
-        x.画面.操作_キー(L, 38);
+        x.画面.操作_キー(L, キーコード::Up);
         鍵 = L.鍵(L.選択);
-        x.画面.操作_キー(L, 13);
+        x.画面.操作_キー(L, キーコード::Enter);
         答え = f->状態.選択鍵;
     };
     開く();
@@ -146,7 +146,7 @@ TEST_P(出金摘要一覧, 見出しで逆順にして戻っても次に開く�
         if (回++ == 0) {
             x.画面.操作_列クリック(L, 0);
             一回目 = 列(x);
-            x.画面.操作_キー(L, 27);
+            x.画面.操作_キー(L, キーコード::Esc);
             return;
         }
         二回目 = 列(x);
@@ -155,7 +155,7 @@ TEST_P(出金摘要一覧, 見出しで逆順にして戻っても次に開く�
         // The direction starts ascending again: the first click turns it to descending.
         x.画面.操作_列クリック(L, 0);
         見出し後 = 列(x);
-        x.画面.操作_キー(L, 27);
+        x.画面.操作_キー(L, キーコード::Esc);
     };
     開く();
     // The header stands: the second opening is the button alone.
@@ -172,9 +172,9 @@ TEST_P(出金摘要一覧, 選ぶと鍵が返り窓は閉じ費目区分に文�
     QString 鍵;
     std::optional<QString> 答え;
     操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
-        x.画面.操作_キー(x.一覧(), 40);
+        x.画面.操作_キー(x.一覧(), キーコード::Down);
         鍵 = x.一覧().鍵(0);
-        x.画面.操作_キー(x.一覧(), 13);
+        x.画面.操作_キー(x.一覧(), キーコード::Enter);
     };
     開く();
     EXPECT_EQ(基盤.閉じた画面, QStringList{u"wnd出金摘要一覧"_qs});

@@ -82,9 +82,11 @@ class 入力画面モンキー : public 入力画面試験, public ::testing::Wi
             記録 << u"double click "_qs + 説明(*p);
             m.操作_ダブルクリック(*p);
         } else if (種 < 94 && 焦点) {
-            static const QList<int> キー = {17, 13, 9, 27, 33, 34, 38, 40, 112, 113, 115, 116, 123};
-            const int k = r->選ぶ(キー);
-            記録 << u"key "_qs + QString::number(k) + u" on "_qs + 説明(*焦点);
+            using enum キーコード;
+            static const QList<キーコード> キー = {Ctrl, Enter, Tab, Esc, PageUp, PageDown, Up,
+                                                   Down, F1,    F2,  F4,  F5,     F12};
+            const キーコード k = r->選ぶ(キー);
+            記録 << u"key "_qs + QString::number(static_cast<int>(k)) + u" on "_qs + 説明(*焦点);
             m.操作_キー(*焦点, k);
         } else {
             std::vector<部品*> 値部品;

@@ -31,7 +31,7 @@ class 出金試験 : public エンジン別試験 {
 
     // The stored slip by its key, as the slip No field loads it.
     bool 読込(const QString& No, const QString& 基準日付 = u"20260331"_qs) {
-        if (!s.出金キー検索(u"000"_qs, 基準日付, No)) {
+        if (!s.出金キー検索({u"000"_qs, 基準日付, No})) {
             s.出金検索破棄();
             return false;
         }

@@ -113,7 +113,7 @@ TEST_P(出金読込, 頁送りは一歩ごとに閲覧Noの順に閲覧行を残
 }
 
 TEST_P(出金読込, キー検索は読む前に閲覧を記録し文を履歴に残す) {
-    EXPECT_FALSE(s.出金キー検索(u"000"_qs, u"20260331"_qs, u"00000099"_qs));
+    EXPECT_FALSE(s.出金キー検索({u"000"_qs, u"20260331"_qs, u"00000099"_qs}));
     s.出金検索破棄();
     const auto 閲覧 = 木->業務DB行(u"SELECT 伝票No, 閲覧情報 FROM T閲覧"_qs);
     ASSERT_EQ(閲覧.size(), 1);
