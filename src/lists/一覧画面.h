@@ -11,15 +11,14 @@ class 出金セッション;
 class データ環境;
 class 記録集合;
 
-// What a condition field of a list window is: a code taken through its mask (and, for a
-// department or section, with its name looked up), free text, or a looked-up name that hands
-// the focus on.
+// What a condition field of a list window is: a code filled with zeros to its field's length
+// (and, for a department or section, with its name looked up), free text, or a looked-up name
+// that hands the focus on.
 enum class 条件欄種類 { コード, 文字, 名称 };
 
 struct 条件欄 {
     QString 名前;
     条件欄種類 種類 = 条件欄種類::文字;
-    QString マスク;      // a code's zero mask
     QString 名称欄;      // a code's looked-up name field
     QString 名称文;      // the statement that looks the name up, the code and "'" follow
     QString 名称列;      // the column of that statement that holds the name
