@@ -32,13 +32,13 @@ inline bool 明細入力(出金セッション& s, short 費目区分, 金額 �
                      const QString& 摘要 = {}) {
     記録集合 rs;
     const bool あり =
-        s.データ.業務DB検索(rs, u"SELECT 内税外税区分 FROM K費目区分 WHERE 区分 = '"_qs +
+        s.データ.接続().業務DB検索(rs, u"SELECT 内税外税区分 FROM K費目区分 WHERE 区分 = '"_qs +
                                     書式(費目区分, u"00") + u"'"_qs);
     const short 内外 = rs.整数(u"内税外税区分"_qs);
     rs.閉じる();
     if (!あり || s.最終行 >= 最大行数 - 1) return false;
     出金行& l = s.行[++s.最終行];
-    費目区分変更時再計算(s.データ, l, 内外, s.見出し.出金日付);
+    費目区分変更時再計算(s.データ.接続(), l, 内外, s.見出し.出金日付);
     l.費目区分 = 費目区分;
     出金金額変更時再計算(l, 出金金額);
     l.支払先 = 支払先;

@@ -23,12 +23,12 @@ class 未集計情報 : public 番号設定試験 {
 };
 
 TEST_P(未集計情報, 記録者IDは利用者名と起動担当者と端末名をつなぐ) {
-    EXPECT_EQ(記録者ID(環境.環境), 利用者);
+    EXPECT_EQ(記録者ID(環境.接続().環境()), 利用者);
     EXPECT_FALSE(端末利用者名取得().isEmpty());
 }
 
 TEST_P(未集計情報, 更新実行区分1では業務DBに書き稼動履歴に残す) {
-    const 書込結果 結果 = 未集計情報書込(環境, u"0"_qs, u"1"_qs, u"16810"_qs, u"000"_qs,
+    const 書込結果 結果 = 未集計情報書込(環境.接続(), 環境.会社設定().会社(), u"0"_qs, u"1"_qs, u"16810"_qs, u"000"_qs,
                                          u"20270331"_qs, u"00000012"_qs, u"00000034"_qs);
     EXPECT_EQ(結果.処理結果区分, 1);
     EXPECT_EQ(結果.処理結果メッセージ, QString());
@@ -44,8 +44,8 @@ TEST_P(未集計情報, 更新実行区分1では業務DBに書き稼動履歴�
 }
 
 TEST_P(未集計情報, 更新実行区分0では環境DBに書き稼動履歴を残さない) {
-    環境.会社.更新実行区分 = 0;
-    const 書込結果 結果 = 未集計情報書込(環境, u"1"_qs, u"0"_qs, u"16810"_qs, u"001"_qs,
+    環境.会社設定().会社変更([&](会社情報& 値) { 値.更新実行区分 = 0; });
+    const 書込結果 結果 = 未集計情報書込(環境.接続(), 環境.会社設定().会社(), u"1"_qs, u"0"_qs, u"16810"_qs, u"001"_qs,
                                          u"20260331"_qs, u"00000003"_qs, u"00000010"_qs);
     EXPECT_EQ(結果.処理結果区分, 1);
     EXPECT_EQ(環境の列(), QStringList{u"001|16810|20260331|00000010|0|00000003||0|1|"_qs + 利用者});
@@ -55,7 +55,7 @@ TEST_P(未集計情報, 更新実行区分0では環境DBに書き稼動履歴�
 
 TEST_P(未集計情報, 書込の失敗は区分3と文言になり記録される) {
     ASSERT_TRUE(木->業務DB実行(u"DROP TABLE 未集計情報"_qs));
-    const 書込結果 結果 = 未集計情報書込(環境, u"0"_qs, u"1"_qs, u"16810"_qs, u"000"_qs,
+    const 書込結果 結果 = 未集計情報書込(環境.接続(), 環境.会社設定().会社(), u"0"_qs, u"1"_qs, u"16810"_qs, u"000"_qs,
                                          u"20270331"_qs, u"00000001"_qs, u"00000001"_qs);
     EXPECT_EQ(結果.処理結果区分, 3);
     EXPECT_EQ(結果.処理結果メッセージ, u"登録済です。登録できませんでした。"_qs);
@@ -74,7 +74,7 @@ TEST_P(未集計情報, 新規は赤黒1の一行) {
 
 TEST_P(未集計情報, 削除は赤黒0で登録情報区分2の一行だけ) {
     const auto 結果 =
-        出金未集計情報書込(環境, {u"2"_qs, u"000"_qs, u"20270331"_qs, u"00000007"_qs,
+        出金未集計情報書込(環境.接続(), 環境.会社設定().会社(), {u"2"_qs, u"000"_qs, u"20270331"_qs, u"00000007"_qs,
                                   u"00000015"_qs, u"20270331"_qs, u"00000008"_qs, QString()});
     ASSERT_TRUE(結果.has_value());
     EXPECT_EQ(業務の列(), QStringList{u"000|16810|20270331|00000015|0|00000007||0|2|"_qs + 利用者});
@@ -84,7 +84,7 @@ TEST_P(未集計情報, 系列を移った修正は旧キーを先に新キー�
     // The history numbers run against the order of writing, so the order is read from the
     // run history, which numbers its rows.
     const auto 結果 =
-        出金未集計情報書込(環境, {u"1"_qs, u"000"_qs, u"20260331"_qs, u"00000003"_qs,
+        出金未集計情報書込(環境.接続(), 環境.会社設定().会社(), {u"1"_qs, u"000"_qs, u"20260331"_qs, u"00000003"_qs,
                                   u"00000021"_qs, u"20270331"_qs, u"00000001"_qs, u"00000020"_qs});
     ASSERT_TRUE(結果.has_value());
     EXPECT_EQ(業務の列(),
@@ -97,7 +97,7 @@ TEST_P(未集計情報, 系列を移った修正は旧キーを先に新キー�
 }
 
 TEST_P(未集計情報, 履歴番号が数値で0の状態は書かない) {
-    EXPECT_FALSE(出金未集計情報書込(環境, {u"1"_qs, u"000"_qs, u"20270331"_qs, u"00000003"_qs,
+    EXPECT_FALSE(出金未集計情報書込(環境.接続(), 環境.会社設定().会社(), {u"1"_qs, u"000"_qs, u"20270331"_qs, u"00000003"_qs,
                                            u"00000000"_qs, u"20270331"_qs, u"00000003"_qs, u""_qs})
                      .has_value());
     EXPECT_TRUE(業務の列().isEmpty());
@@ -106,12 +106,12 @@ TEST_P(未集計情報, 履歴番号が数値で0の状態は書かない) {
 TEST_P(未集計情報, 結果は最後に書いた行のもの) {
     // Old and new state go to the configuration database there; a failure of the first is
     // overwritten by the success of the second.
-    環境.会社.更新実行区分 = 0;
+    環境.会社設定().会社変更([&](会社情報& 値) { 値.更新実行区分 = 0; });
     ASSERT_TRUE(木->環境DB実行(
         u"CREATE TRIGGER 旧状態拒否 BEFORE INSERT ON 未集計情報 WHEN NEW.赤黒区分 = '0'"
         " BEGIN SELECT RAISE(ABORT, 'refused'); END"_qs));
     const auto 結果 =
-        出金未集計情報書込(環境, {u"1"_qs, u"000"_qs, u"20270331"_qs, u"00000003"_qs,
+        出金未集計情報書込(環境.接続(), 環境.会社設定().会社(), {u"1"_qs, u"000"_qs, u"20270331"_qs, u"00000003"_qs,
                                   u"00000004"_qs, u"20270331"_qs, u"00000003"_qs, u"00000005"_qs});
     ASSERT_TRUE(結果.has_value());
     EXPECT_EQ(結果->処理結果区分, 1);
