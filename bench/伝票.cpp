@@ -37,7 +37,9 @@ void 計測一式(int 件数) {
     台本プラットフォーム 基盤;
     出金セッション s(基盤);
     s.データ.接続().自身のフォルダ設定(根 + u"/prgbin"_qs);
-    if (!s.データ.接続().SYB_OPEN() || !s.データ.接続().DB_OPEN() || !s.データ.会社設定().基本項目読込()) return;
+    if (!s.データ.接続().SYB_OPEN() || !s.データ.接続().DB_OPEN() ||
+        !s.データ.会社設定().基本項目読込())
+        return;
     s.見出し.事業所コード = u"000"_qs;
 
     // The 15-line slip stands on the middle day.
@@ -63,16 +65,18 @@ void 計測一式(int 件数) {
     }
 
     // A take that meets a number already stored under the base date and retries once.
-    s.データ.接続().業務DB検索(rs, u"SELECT MAX(出金No) AS 最大 FROM T出金 WHERE 番号基準日付 = '"_qs +
-                                基準日付 + u"' AND 出金No <> '99999999'"_qs);
+    s.データ.接続().業務DB検索(
+        rs, u"SELECT MAX(出金No) AS 最大 FROM T出金 WHERE 番号基準日付 = '"_qs + 基準日付 +
+                u"' AND 出金No <> '99999999'"_qs);
     const qint64 最大 = rs.文字列(u"最大"_qs).toLongLong();
     rs.閉じる();
     const QString 番号ID = 番号定数::出金番号ID.toString();
     for (int i = 0; i < 60; ++i) {
         期日別番号行確保(s.データ, 番号ID, 基準日付);
         s.データ.接続().業務DB実行(u"UPDATE A期日別番号情報 SET 連番 = '"_qs +
-                            QString::number(最大 - 1).rightJustified(8, u'0') +
-                            u"' WHERE 番号ID = '16810' AND 期日 = '"_qs + 基準日付 + u"'"_qs);
+                                   QString::number(最大 - 1).rightJustified(8, u'0') +
+                                   u"' WHERE 番号ID = '16810' AND 期日 = '"_qs + 基準日付 +
+                                   u"'"_qs);
         int 試行 = 0;
         QElapsedTimer t;
         t.start();

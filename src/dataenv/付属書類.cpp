@@ -50,7 +50,7 @@ bool 付属書類追加(データ環境& e, const QString& 情報名, const QStr
     QString SEQNo = u"001"_qs;
     記録集合 rs;
     if (e.接続().業務DB検索(rs, u"SELECT SEQNo FROM M付属書類"_qs + 鍵条件(情報名, 情報識別ID) +
-                             u" ORDER BY SEQNo DESC"_qs)) {
+                                    u" ORDER BY SEQNo DESC"_qs)) {
         SEQNo = 書式(static_cast<qint64>(数値変換(rs.文字列(u"SEQNo"_qs))) + 1, 数値書式::三桁);
     }
     rs.閉じる();
@@ -70,8 +70,8 @@ bool 付属書類追加(データ環境& e, const QString& 情報名, const QStr
         文字列値(v.科目コード) + 文字列値(v.社員コード) + 文字列値(v.担当者コード) +
         文字列値(v.部門コード) + 文字列値(v.セクションコード) + 文字列値(v.商品コード) +
         文字列値(v.メーカコード) + u","_qs + 書式(v.対象金額, 数値書式::付属書類金額) +
-        文字列値(記録者ID(e.接続().環境())) + u",'"_qs + e.基盤().現在時刻().toString(u"yyyyMMdd HHmmss"_qs) +
-        u"')"_qs;
+        文字列値(記録者ID(e.接続().環境())) + u",'"_qs +
+        e.基盤().現在時刻().toString(u"yyyyMMdd HHmmss"_qs) + u"')"_qs;
     const bool 成功 = e.接続().業務DB実行(文, false);
     // Only a path is copied; the name is read from the disk, so a vanished file copies nothing.
     if (成功 && パス.trimmed().contains(u'/')) {
@@ -84,7 +84,7 @@ bool 付属書類追加(データ環境& e, const QString& 情報名, const QStr
 bool 付属書類削除(データ環境& e, const QString& 情報名, const QString& 情報識別ID,
                   const QString& SEQNo) {
     return e.接続().業務DB実行(u"DELETE FROM M付属書類"_qs + 鍵条件(情報名, 情報識別ID) +
-                        u" AND SEQNo = '"_qs + SEQNo + u"'"_qs);
+                               u" AND SEQNo = '"_qs + SEQNo + u"'"_qs);
 }
 
 void 付属書類複写(データ環境& e, const QString& パス, const QString& 保存名) {
@@ -130,8 +130,8 @@ bool 付属書類表示(データ環境& e, const QString& 名前, const QString
 QList<付属書類行> 付属書類一覧(データ環境& e, const QString& 情報名, const QString& 情報識別ID) {
     QList<付属書類行> 一覧;
     記録集合 rs;
-    if (e.接続().業務DB検索(rs, u"SELECT *"_qs + u" FROM M付属書類"_qs + 鍵条件(情報名, 情報識別ID) +
-                             u" ORDER BY SEQNo"_qs)) {
+    if (e.接続().業務DB検索(rs, u"SELECT *"_qs + u" FROM M付属書類"_qs +
+                                    鍵条件(情報名, 情報識別ID) + u" ORDER BY SEQNo"_qs)) {
         for (; !rs.EOFか(); rs.MoveNext()) {
             付属書類行 行;
             const QString SEQNo = rs.文字列(u"SEQNo"_qs);

@@ -74,9 +74,9 @@ void frm紺碧帳::付属書類を外す(const QString& Key) {
         付属書類キー分解(Key, 識別, SEQNo);
         記録集合 rs;
         const QString 書類名 =
-            d.接続().業務DB検索(rs, u"SELECT 書類名 FROM M付属書類 WHERE 情報名 = '"_qs + 出金情報名 +
-                                 u"' AND 情報識別ID = '"_qs + 識別 + u"' AND SEQNo = '"_qs + SEQNo +
-                                 u"'"_qs)
+            d.接続().業務DB検索(rs, u"SELECT 書類名 FROM M付属書類 WHERE 情報名 = '"_qs +
+                                        出金情報名 + u"' AND 情報識別ID = '"_qs + 識別 +
+                                        u"' AND SEQNo = '"_qs + SEQNo + u"'"_qs)
                 ? rs.文字列(u"書類名"_qs)
                 : QString();
         rs.閉じる();
@@ -99,8 +99,8 @@ void frm紺碧帳::付属書類を開く(const QString& Key) {
     付属書類キー分解(Key, 識別, SEQNo);
     記録集合 rs;
     const bool ある = d.接続().業務DB検索(rs, u"SELECT 書類名 FROM M付属書類 WHERE 情報名 = '"_qs +
-                                           出金情報名 + u"' AND 情報識別ID = '"_qs + 識別 +
-                                           u"' AND SEQNo = '"_qs + SEQNo + u"'"_qs);
+                                                  出金情報名 + u"' AND 情報識別ID = '"_qs + 識別 +
+                                                  u"' AND SEQNo = '"_qs + SEQNo + u"'"_qs);
     const QString 書類名 = rs.文字列(u"書類名"_qs);
     rs.閉じる();
     if (ある) 付属書類表示(d, 付属書類名前(書類名), 保存名(出金情報名, 識別, SEQNo));

@@ -103,8 +103,9 @@ bool 紺碧帳起動::データベース開始() {
     データ環境& d = s.データ;
     if (!d.接続().SYB_OPEN()) return false;
     d.開始履歴書込();
-    d.プログラム連携().他プログラム連携受信(d.接続().コマンドライン().trimmed(),
-                           d.基盤().現在時刻().addSecs(-60).toString(u"yyyyMMdd HHmmss"_qs));
+    d.プログラム連携().他プログラム連携受信(
+        d.接続().コマンドライン().trimmed(),
+        d.基盤().現在時刻().addSecs(-60).toString(u"yyyyMMdd HHmmss"_qs));
     // Only the suite's menu program keeps the configuration database's tables short.
     if (d.接続().プログラムID() == u"翠嶺") d.接続().環境情報整理();
     return d.接続().DB_OPEN();
@@ -190,12 +191,13 @@ void 紺碧帳起動::起動条件読込() {
 
 void 紺碧帳起動::連携条件項目登録(const QString& メニュー名, const QString& プログラム名) {
     s.データ.接続().条件項目名保存(メニュー名, プログラム名,
-                            {u"事業所コード"_qs, u"番号基準日付"_qs, u"出金No"_qs});
+                                   {u"事業所コード"_qs, u"番号基準日付"_qs, u"出金No"_qs});
 }
 
 void 紺碧帳起動::終了処理() {
     データ環境& d = s.データ;
-    if (!d.プログラム連携().受信起動連携情報().isEmpty()) d.プログラム連携().他プログラム連携発信(d.プログラム連携().終了時連携情報());
+    if (!d.プログラム連携().受信起動連携情報().isEmpty())
+        d.プログラム連携().他プログラム連携発信(d.プログラム連携().終了時連携情報());
     d.接続().終了履歴書込();
     d.接続().接続終了();
 }

@@ -33,7 +33,7 @@ inline bool 明細入力(出金セッション& s, short 費目区分, 金額 �
     記録集合 rs;
     const bool あり =
         s.データ.接続().業務DB検索(rs, u"SELECT 内税外税区分 FROM K費目区分 WHERE 区分 = '"_qs +
-                                    書式(費目区分, u"00") + u"'"_qs);
+                                           書式(費目区分, u"00") + u"'"_qs);
     const short 内外 = rs.整数(u"内税外税区分"_qs);
     rs.閉じる();
     if (!あり || s.最終行 >= 最大行数 - 1) return false;

@@ -40,7 +40,8 @@ TEST_P(データ層, 行のない問合せは偽で記録集合はなお閉じ�
 TEST_P(データ層, Nullの列はNullと分かり文字列では空になる) {
     ASSERT_TRUE(木->業務DB実行(u"UPDATE M事業所 SET FAX = NULL WHERE コード = '001'"_qs));
     記録集合 rs;
-    ASSERT_TRUE(環境.接続().業務DB検索(rs, u"SELECT FAX, 名称 FROM M事業所 WHERE コード = '001'"_qs));
+    ASSERT_TRUE(
+        環境.接続().業務DB検索(rs, u"SELECT FAX, 名称 FROM M事業所 WHERE コード = '001'"_qs));
     EXPECT_TRUE(rs.Null(u"FAX"_qs));
     EXPECT_EQ(rs.文字列(u"FAX"_qs), QString());
     EXPECT_FALSE(rs.Null(u"名称"_qs));
@@ -58,7 +59,8 @@ TEST_P(データ層, 列名の英字は大文字小文字を問わず読める) 
 
 TEST_P(データ層, TOPは両方のエンジンで行数を限る) {
     記録集合 rs;
-    ASSERT_TRUE(環境.接続().業務DB検索(rs, u"SELECT TOP 2 [コード] FROM M事業所 ORDER BY コード"_qs));
+    ASSERT_TRUE(
+        環境.接続().業務DB検索(rs, u"SELECT TOP 2 [コード] FROM M事業所 ORDER BY コード"_qs));
     int 件数 = 0;
     for (; !rs.EOFか(); rs.MoveNext()) ++件数;
     EXPECT_EQ(件数, 2);
@@ -68,7 +70,7 @@ TEST_P(データ層, TOPは両方のエンジンで行数を限る) {
 TEST_P(データ層, 自由入力の引用符は二重化されて一つで届き符号は触れない) {
     const QString 名 = u"O'Neil商会  "_qs;
     ASSERT_TRUE(環境.接続().業務DB実行(u"UPDATE M事業所 SET 名称 = '"_qs + 引用符二重化(名) +
-                                u"' WHERE コード = '001'"_qs));
+                                       u"' WHERE コード = '001'"_qs));
     記録集合 rs;
     ASSERT_TRUE(環境.接続().業務DB検索(rs, u"SELECT 名称 FROM M事業所 WHERE コード = '001'"_qs));
     EXPECT_EQ(rs.文字列(u"名称"_qs), u"O'Neil商会"_qs);
@@ -107,7 +109,8 @@ TEST_P(データ層, 履歴フラグの文は成功の後に出力終了行を�
     EXPECT_EQ(行[0][0].toString(), u"000000000001"_qs);
     // Doubled once more than the statement itself: the table holds ''A''''s''.
     EXPECT_EQ(行[0][1].toString(), u"出力終了 "_qs + 引用符二重化(文));
-    EXPECT_TRUE(環境.接続().業務DB実行(u"UPDATE M事業所 SET 名称 = 'b' WHERE コード = '002'"_qs, false));
+    EXPECT_TRUE(
+        環境.接続().業務DB実行(u"UPDATE M事業所 SET 名称 = 'b' WHERE コード = '002'"_qs, false));
     EXPECT_EQ(履歴().size(), 1);
 }
 
@@ -139,7 +142,8 @@ TEST_P(データ層, 金額の列は四桁の小数まで正確に読める) {
     ASSERT_TRUE(
         木->業務DB実行(u"UPDATE Mユーザ SET 現金決済金額 = 12345678.1235 WHERE ID = '0001'"_qs));
     記録集合 rs;
-    ASSERT_TRUE(環境.接続().業務DB検索(rs, u"SELECT 現金決済金額 FROM Mユーザ WHERE ID = '0001'"_qs));
+    ASSERT_TRUE(
+        環境.接続().業務DB検索(rs, u"SELECT 現金決済金額 FROM Mユーザ WHERE ID = '0001'"_qs));
     EXPECT_EQ(rs.金額値(u"現金決済金額"_qs).万分単位(), 123456781235);
     rs.閉じる();
 }

@@ -53,7 +53,8 @@ TEST_P(一文実行, 終わりのセミコロンの後が空白と注釈だけ�
     開く();
     EXPECT_TRUE(環境.接続().業務DB実行(u"INSERT INTO 試験表 (値) VALUES ('足す'); -- 終わり\n"_qs));
     記録集合 rs;
-    EXPECT_TRUE(環境.接続().業務DB検索(rs, u"SELECT 値 FROM 試験表 WHERE 値 = '足す';  /* 注 */"_qs));
+    EXPECT_TRUE(
+        環境.接続().業務DB検索(rs, u"SELECT 値 FROM 試験表 WHERE 値 = '足す';  /* 注 */"_qs));
     EXPECT_EQ(rs.文字列(u"値"_qs), u"足す"_qs);
     rs.閉じる();
     EXPECT_EQ(試験表(), (QStringList{u"残る"_qs, u"足す"_qs}));
@@ -82,8 +83,8 @@ TEST_P(一文実行, 逆斜線を逃がしとする設定のデータベース�
                                    u" SET standard_conforming_strings = off"_qs));
     }
     開く();
-    EXPECT_TRUE(
-        環境.接続().業務DB実行(u"INSERT INTO 試験表 (値) VALUES ('\\''); DELETE FROM 試験表; --')"_qs));
+    EXPECT_TRUE(環境.接続().業務DB実行(
+        u"INSERT INTO 試験表 (値) VALUES ('\\''); DELETE FROM 試験表; --')"_qs));
     EXPECT_TRUE(環境.接続().業務DB実行(u"INSERT INTO 試験表 (値) VALUES ('C:\\')"_qs));
     EXPECT_EQ(試験表(), (QStringList{u"C:\\"_qs, u"\\'); DELETE FROM 試験表; --"_qs, u"残る"_qs}));
 }

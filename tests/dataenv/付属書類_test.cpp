@@ -79,7 +79,8 @@ TEST_P(付属書類, 追加は挿入順の列で行を書き保存名を付け�
     ASSERT_EQ(行.size(), 1);
     QStringList 値;
     for (const auto& x : 行[0]) 値 << x.toString();
-    const QString 利用者 = 環境.接続().環境().ユーザID + 環境.接続().環境().起動担当者コード + 環境.接続().環境().端末名;
+    const QString 利用者 = 環境.接続().環境().ユーザID + 環境.接続().環境().起動担当者コード +
+                           環境.接続().環境().端末名;
     EXPECT_EQ(値, (QStringList{u"紺碧帳"_qs,
                                甲,
                                u"001"_qs,

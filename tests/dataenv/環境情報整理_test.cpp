@@ -48,8 +48,8 @@ class 環境情報整理 : public ::testing::Test {
         QString 列 = u"実行日付, プログラムID"_qs;
         if (名 == u"プログラム連携情報") 列 = u"発信日時, 発信プログラムID"_qs;
         if (名.startsWith(u"プログラムクリップボード")) 列 = u"貼付日時, 貼付プログラムID"_qs;
-        ASSERT_TRUE(環境.接続().環境DB実行(u"INSERT INTO "_qs + 名 + u" ("_qs + 列 + u") VALUES ('"_qs +
-                                    日時 + u"', '"_qs + 印 + u"')"_qs));
+        ASSERT_TRUE(環境.接続().環境DB実行(u"INSERT INTO "_qs + 名 + u" ("_qs + 列 +
+                                           u") VALUES ('"_qs + 日時 + u"', '"_qs + 印 + u"')"_qs));
     }
     QStringList 残り(const char16_t* 表) {
         const QString 名 = QString::fromUtf16(表);

@@ -16,7 +16,9 @@ class 番号設定 : public 番号設定試験 {
         if (IsSkipped() || HasFatalFailure()) return;
         ASSERT_NO_FATAL_FAILURE(起動());
     }
-    void 事業所別に() { 環境.会社設定().会社変更([&](会社情報& 値) { 値.伝票番号管理区分 = 1; }); }
+    void 事業所別に() {
+        環境.会社設定().会社変更([&](会社情報& 値) { 値.伝票番号管理区分 = 1; });
+    }
 
     // The session's general database, with every statement written down on its way.
     番号環境 記録付き(QStringList& 文一覧) {

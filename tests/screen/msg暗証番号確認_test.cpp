@@ -44,7 +44,9 @@ class 暗証番号確認 : public エンジン別試験 {
             if (名 == 窓名) 手順();
         };
     }
-    short 確認(short 区分 = 0) { return 環境.操作者権限().操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 区分); }
+    short 確認(short 区分 = 0) {
+        return 環境.操作者権限().操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 区分);
+    }
 
     部品& c(const QString& 名前) { return 窓->画面(名前); }
     QString 焦点() const {

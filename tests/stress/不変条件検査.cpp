@@ -74,7 +74,8 @@ class 検査 {
     QList<QStringList> 行(const QString& 文, const QStringList& 列, bool 環境 = false) {
         QList<QStringList> 結果;
         記録集合 rs;
-        const bool あり = 環境 ? s.データ.接続().環境DB検索(rs, 文) : s.データ.接続().業務DB検索(rs, 文);
+        const bool あり =
+            環境 ? s.データ.接続().環境DB検索(rs, 文) : s.データ.接続().業務DB検索(rs, 文);
         if (あり) {
             for (; !rs.EOFか(); rs.MoveNext()) {
                 QStringList r;

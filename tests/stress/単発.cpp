@@ -32,7 +32,8 @@ int 単発実行(const QString& プログラムフォルダ, const QString& 動�
                     rs.閉じる();
                 }
                 記録集合 rs;
-                if (人.s.データ.接続().環境DB検索(rs, u"SELECT COUNT(*) AS n FROM プログラム稼動履歴"_qs))
+                if (人.s.データ.接続().環境DB検索(
+                        rs, u"SELECT COUNT(*) AS n FROM プログラム稼動履歴"_qs))
                     数 << u"run history "_qs + rs.文字列(u"n"_qs);
                 rs.閉じる();
                 std::fprintf(stderr, "read %d: %s\n", n, qPrintable(数.join(u", "_qs)));
