@@ -18,7 +18,7 @@ double 層経由(データ環境& e) {
     qsizetype 長さ = 0;
     for (int i = 0; i < 回数; ++i) {
         記録集合 rs;
-        if (e.業務DB検索(rs, 文)) {
+        if (e.接続().業務DB検索(rs, 文)) {
             for (const auto& c : 列) 長さ += rs.文字列(c).size();
         }
         rs.閉じる();
@@ -51,11 +51,11 @@ void データ層計測() {
     if (!木.作成済み) return;
     台本プラットフォーム 基盤;
     データ環境 e(基盤);
-    e.自身のフォルダ = 木.根() + u"/prgbin"_qs;
-    if (!e.SYB_OPEN() || !e.DB_OPEN()) return;
+    e.接続().自身のフォルダ設定(木.根() + u"/prgbin"_qs);
+    if (!e.接続().SYB_OPEN() || !e.接続().DB_OPEN()) return;
     std::vector<double> 層, 生, 比;
     for (int i = 0; i < 7; ++i) {
-        const double a = 層経由(e), b = 直接(e.業務DB().生接続());
+        const double a = 層経由(e), b = 直接(e.接続().業務DB().生接続());
         層.push_back(a);
         生.push_back(b);
         比.push_back((a / b - 1) * 100);
@@ -63,5 +63,5 @@ void データ層計測() {
     結果表示("query through the data layer (SQLite)", 層, "us");
     結果表示("same query through raw QSqlQuery", 生, "us");
     結果表示("data layer overhead", 比, "%");
-    e.接続終了();
+    e.接続().接続終了();
 }

@@ -82,14 +82,14 @@ void 一覧計測() {
     台本プラットフォーム 基盤;
     基盤.時刻 = QDateTime(QDate(2024, 2, 15), QTime(10, 0, 0));
     出金セッション s(基盤);
-    s.データ.自身のフォルダ = 根 + u"/prgbin"_qs;
-    if (!s.データ.SYB_OPEN() || !s.データ.DB_OPEN() || !s.データ.基本項目読込()) return;
+    s.データ.接続().自身のフォルダ設定(根 + u"/prgbin"_qs);
+    if (!s.データ.接続().SYB_OPEN() || !s.データ.接続().DB_OPEN() || !s.データ.会社設定().基本項目読込()) return;
     frm紺碧帳 f(s);
     一覧画面集 集(s, f.画面);
     // The raw reads share the program's connection, and let it go before it is closed.
     {
-        const QSqlDatabase db = s.データ.業務DB().生接続();
+        const QSqlDatabase db = s.データ.接続().業務DB().生接続();
         測る全て(集, f.画面, db);
     }
-    s.データ.接続終了();
+    s.データ.接続().接続終了();
 }

@@ -36,13 +36,15 @@ void 計測一式(int 件数) {
     if (根.isEmpty()) return;
     台本プラットフォーム 基盤;
     出金セッション s(基盤);
-    s.データ.自身のフォルダ = 根 + u"/prgbin"_qs;
-    if (!s.データ.SYB_OPEN() || !s.データ.DB_OPEN() || !s.データ.基本項目読込()) return;
+    s.データ.接続().自身のフォルダ設定(根 + u"/prgbin"_qs);
+    if (!s.データ.接続().SYB_OPEN() || !s.データ.接続().DB_OPEN() ||
+        !s.データ.会社設定().基本項目読込())
+        return;
     s.見出し.事業所コード = u"000"_qs;
 
     // The 15-line slip stands on the middle day.
     記録集合 rs;
-    s.データ.業務DB検索(rs, u"SELECT 番号基準日付 FROM T出金 WHERE 出金No = '99999999'"_qs);
+    s.データ.接続().業務DB検索(rs, u"SELECT 番号基準日付 FROM T出金 WHERE 出金No = '99999999'"_qs);
     const QString 基準日付 = rs.文字列(u"番号基準日付"_qs);
     rs.閉じる();
 
@@ -63,16 +65,18 @@ void 計測一式(int 件数) {
     }
 
     // A take that meets a number already stored under the base date and retries once.
-    s.データ.業務DB検索(rs, u"SELECT MAX(出金No) AS 最大 FROM T出金 WHERE 番号基準日付 = '"_qs +
-                                基準日付 + u"' AND 出金No <> '99999999'"_qs);
+    s.データ.接続().業務DB検索(
+        rs, u"SELECT MAX(出金No) AS 最大 FROM T出金 WHERE 番号基準日付 = '"_qs + 基準日付 +
+                u"' AND 出金No <> '99999999'"_qs);
     const qint64 最大 = rs.文字列(u"最大"_qs).toLongLong();
     rs.閉じる();
     const QString 番号ID = 番号定数::出金番号ID.toString();
     for (int i = 0; i < 60; ++i) {
         期日別番号行確保(s.データ, 番号ID, 基準日付);
-        s.データ.業務DB実行(u"UPDATE A期日別番号情報 SET 連番 = '"_qs +
-                            QString::number(最大 - 1).rightJustified(8, u'0') +
-                            u"' WHERE 番号ID = '16810' AND 期日 = '"_qs + 基準日付 + u"'"_qs);
+        s.データ.接続().業務DB実行(u"UPDATE A期日別番号情報 SET 連番 = '"_qs +
+                                   QString::number(最大 - 1).rightJustified(8, u'0') +
+                                   u"' WHERE 番号ID = '16810' AND 期日 = '"_qs + 基準日付 +
+                                   u"'"_qs);
         int 試行 = 0;
         QElapsedTimer t;
         t.start();
@@ -83,7 +87,7 @@ void 計測一式(int 件数) {
             },
             [&](const QString& n) {
                 記録集合 r;
-                const bool 使用済み = s.データ.業務DB検索(
+                const bool 使用済み = s.データ.接続().業務DB検索(
                     r,
                     u"SELECT TOP 1 出金No FROM T出金 WHERE 事業所コード = '000' AND 番号基準日付 = '"_qs +
                         基準日付 + u"' AND 出金No = '"_qs + n + u"'"_qs);
@@ -97,7 +101,7 @@ void 計測一式(int 件数) {
     結果表示((題 + "key search + header + 15 lines").constData(), 読込, "ms");
     結果表示((題 + "one previous-slip step").constData(), 前へ, "ms");
     結果表示((題 + "number take with one retry").constData(), 採番, "ms");
-    s.データ.接続終了();
+    s.データ.接続().接続終了();
 }
 
 }  // namespace

@@ -22,8 +22,10 @@ void 入力画面計測() {
     台本プラットフォーム 基盤;
     基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
     出金セッション s(基盤);
-    s.データ.自身のフォルダ = 木.根() + u"/prgbin"_qs;
-    if (!s.データ.SYB_OPEN() || !s.データ.DB_OPEN() || !s.データ.基本項目読込()) return;
+    s.データ.接続().自身のフォルダ設定(木.根() + u"/prgbin"_qs);
+    if (!s.データ.接続().SYB_OPEN() || !s.データ.接続().DB_OPEN() ||
+        !s.データ.会社設定().基本項目読込())
+        return;
     s.見出し.事業所コード = u"000"_qs;
     s.見出し.出金日付年 = u"2025"_qs;
     s.見出し.出金日付月 = u"11"_qs;
@@ -53,5 +55,5 @@ void 入力画面計測() {
     }
     結果表示("full display of a 15-line slip", 表示, "ms");
     結果表示("replay of a 15-line entry from staff code", 入力, "ms");
-    s.データ.接続終了();
+    s.データ.接続().接続終了();
 }

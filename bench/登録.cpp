@@ -17,7 +17,7 @@ void 登録計測(const QString& PostgreSQL接続情報, const char* 新規名, 
     出金セッション s(基盤);
     画面なし 画面;
     紺碧帳起動 起動(s, 画面);
-    s.データ.自身のフォルダ = 木.根() + u"/prgbin"_qs;
+    s.データ.接続().自身のフォルダ設定(木.根() + u"/prgbin"_qs);
     if (!起動.データベース開始() || !起動.ユーザ情報初期化()) return;
     std::vector<double> 新規, 修正;
     for (int i = 0; i < 200; ++i) {

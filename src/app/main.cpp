@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
 
     Qtプラットフォーム 基盤;
     出金セッション セッション(基盤);
-    セッション.データ.自身のフォルダ = QCoreApplication::applicationDirPath();
+    セッション.データ.接続().自身のフォルダ設定(QCoreApplication::applicationDirPath());
 
     frm紺碧帳 モデル(セッション);
     msg暗証番号確認 暗証確認(セッション.データ);

@@ -1,19 +1,19 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include "dataenv/データ環境.h"
+#include "dataenv/接続環境.h"
 
-ツリー診断結果 データ環境::ツリー診断() const {
+ツリー診断結果 接続環境::ツリー診断() const {
     ツリー診断結果 結果;
     // A program outside a prgbin has no tree: it is told where it stands.
-    if (環境.ルートフォルダ.isEmpty()) {
+    if (環境_.ルートフォルダ.isEmpty()) {
         結果.状態 = ツリー状態::無い;
-        結果.フォルダ = QDir::cleanPath(自身のフォルダ);
+        結果.フォルダ = QDir::cleanPath(自身のフォルダ_);
         return 結果;
     }
-    const QFileInfo 設定(環境.ルートフォルダ + u"/conf"_qs);
+    const QFileInfo 設定(環境_.ルートフォルダ + u"/conf"_qs);
     結果.フォルダ = QDir::cleanPath(設定.isSymLink() ? QFileInfo(設定.symLinkTarget()).path()
-                                                     : 環境.ルートフォルダ);
+                                                     : 環境_.ルートフォルダ);
     if (!設定.exists()) {
         結果.状態 = ツリー状態::無い;
         return 結果;

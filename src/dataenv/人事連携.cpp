@@ -1,8 +1,8 @@
 #include "dataenv/人事連携.h"
 
 #include "dataenv/データベース定義.h"
-#include "dataenv/データ環境.h"
 #include "dataenv/ファイル操作.h"
+#include "dataenv/接続環境.h"
 #include "text/プラットフォーム.h"
 
 namespace {
@@ -23,42 +23,26 @@ const QString 連携環境ファイル = u"/usrcnfg.sqlite"_qs;
 
 }  // namespace
 
-連携スロット環境* データ環境::連携先() {
-    if (連携スロット番号 < 0 || 連携スロット番号 >= 他業務連携情報::予約数) return nullptr;
-    return &連携[連携スロット番号];
+連携スロット環境* 接続環境::連携先() {
+    if (連携スロット番号_ < 0 || 連携スロット番号_ >= 他業務連携情報::予約数) return nullptr;
+    return &連携[連携スロット番号_];
 }
 
-bool データ環境::人事連携選択(const QString& 業務名) {
-    // Ascending, so of two slots that hold one row the first wins.
-    for (short i = 0; i < 他業務連携.スロット数; ++i) {
-        const 他業務連携スロット& 枠 = 他業務連携.スロット[i];
-        if (枠.業務名 == 業務名 && 枠.連携有無区分 == 1) {
-            連携スロット番号 = i;
-            return true;
-        }
-    }
-    return false;
+void 接続環境::連携スロット選択(short 番号, const QString& アプリフォルダ) {
+    連携スロット番号_ = 番号;
+    if (連携スロット環境* L = 連携先()) L->アプリフォルダ = アプリフォルダ;
 }
 
-bool データ環境::人事連携開始() {
-    if (連携先() == nullptr) return false;
-    if (!他業務連携.スロット[連携スロット番号].連携アプリフォルダ.isEmpty()) {
-        if (!連携SYB_OPEN()) return false;
-        // The HR system may start this program as well, with its request in its own tables.
-        if (受信起動連携情報.isEmpty()) {
-            const QString 最早 = 基盤.現在時刻().addSecs(-60).toString(u"yyyyMMdd HHmmss"_qs);
-            連携要求受信(true, コマンドライン.trimmed(), 最早);
-        }
-    }
-    return 連携DB_OPEN();
-}
-
-void データ環境::人事連携終了() {
+void 接続環境::連携環境DB再接続() {
     連携スロット環境* L = 連携先();
     if (L == nullptr) return;
-    if (!L->連携起動連携情報.isEmpty()) {
-        連携応答発信(true, L->連携起動連携情報, L->連携終了連携情報);
-    }
+    L->環境接続.閉じる();
+    L->環境DB接続中 = L->環境接続.開く(ファイル接続先(L->環境フォルダ + 連携環境ファイル));
+}
+
+void 接続環境::連携接続終了() {
+    連携スロット環境* L = 連携先();
+    if (L == nullptr) return;
     if (L->環境DB接続中) {
         L->環境接続.閉じる();
         L->環境DB接続中 = false;
@@ -69,7 +53,7 @@ void データ環境::人事連携終了() {
     }
 }
 
-void データ環境::連携定義読込(連携スロット環境& L) {
+void 接続環境::連携定義読込(連携スロット環境& L) {
     // Read straight from the shared file, whatever the per-user copy says.
     データ接続 定義(u"hr-def"_qs);
     if (!定義.開く(ファイル接続先(L.共通環境フォルダ + 連携環境ファイル))) {
@@ -89,10 +73,10 @@ void データ環境::連携定義読込(連携スロット環境& L) {
     rs.閉じる();
 }
 
-bool データ環境::連携SYB_OPEN() {
+bool 接続環境::連携SYB_OPEN() {
     連携スロット環境* L = 連携先();
     if (L == nullptr) return false;
-    const QString 根 = 他業務連携.スロット[連携スロット番号].連携アプリフォルダ;
+    const QString 根 = L->アプリフォルダ;
     L->プログラムフォルダ = 根 + u"/prgbin"_qs;
     L->共通環境フォルダ = 根 + u"/conf"_qs;
     L->マニュアルフォルダ = 根 + u"/manual"_qs;
@@ -108,7 +92,7 @@ bool データ環境::連携SYB_OPEN() {
                 L->帳票フォルダ = L->共通帳票フォルダ;
                 break;
             case 1: {
-                const QString 利用者 = 根 + u"/users/"_qs + 環境.ユーザID;
+                const QString 利用者 = 根 + u"/users/"_qs + 環境_.ユーザID;
                 L->環境フォルダ = 利用者 + u"/conf"_qs;
                 L->帳票フォルダ = 利用者 + u"/report"_qs;
                 連携利用者別環境準備();
@@ -123,22 +107,22 @@ bool データ環境::連携SYB_OPEN() {
         }
         L->環境DB接続中 = true;
     } catch (const 連携中断& 中) {
-        基盤.メッセージ(u"連携syb_open ERROR"_qs + 中.エラー.番号 + u" "_qs + 中.エラー.説明 +
-                        u"\n"_qs + u"sysopen error"_qs);
+        基盤_.メッセージ(u"連携syb_open ERROR"_qs + 中.エラー.番号 + u" "_qs + 中.エラー.説明 +
+                         u"\n"_qs + u"sysopen error"_qs);
     }
     return L->環境DB接続中;
 }
 
-void データ環境::連携利用者別環境準備() {
+void 接続環境::連携利用者別環境準備() {
     連携スロット環境& L = *連携先();
     const QString 環境ファイル = L.環境フォルダ + 連携環境ファイル;
-    DIREXISTCHK(環境ファイル, 基盤);
+    DIREXISTCHK(環境ファイル, 基盤_);
     if (!ファイル有無確認(環境ファイル)) {
         ファイル複写(L.共通環境フォルダ + 連携環境ファイル, 環境ファイル);
     }
     for (const char16_t* 名 : {u"/repdb.sqlite", u"/repfrmdb.sqlite"}) {
         const QString 帳票 = L.帳票フォルダ + QString::fromUtf16(名);
-        DIREXISTCHK(帳票, 基盤);
+        DIREXISTCHK(帳票, 基盤_);
         if (!ファイル有無確認(帳票) &&
             ファイル有無確認(L.共通帳票フォルダ + QString::fromUtf16(名))) {
             ファイル複写(L.共通帳票フォルダ + QString::fromUtf16(名), 帳票);
@@ -150,7 +134,7 @@ void データ環境::連携利用者別環境準備() {
     }
 }
 
-bool データ環境::連携DB_OPEN() {
+bool 接続環境::連携DB_OPEN() {
     連携スロット環境* L = 連携先();
     if (L == nullptr) return false;
     auto 失敗 = [&](const 接続エラー& e) {
@@ -186,22 +170,22 @@ bool データ環境::連携DB_OPEN() {
     return L->業務DB接続中;
 }
 
-bool データ環境::連携DB検索(記録集合& 結果, const QString& 文, bool 履歴) {
+bool 接続環境::連携DB検索(記録集合& 結果, const QString& 文, bool 履歴) {
     連携スロット環境* L = 連携先();
     return 記録付検索(L ? &L->業務接続 : nullptr, 結果, 文, 履歴);
 }
 
-bool データ環境::連携DB実行(const QString& 文, bool 履歴) {
+bool 接続環境::連携DB実行(const QString& 文, bool 履歴) {
     連携スロット環境* L = 連携先();
     return 記録付実行(L ? &L->業務接続 : nullptr, 文, 履歴);
 }
 
-bool データ環境::連携環境DB検索(記録集合& 結果, const QString& 文) {
+bool 接続環境::連携環境DB検索(記録集合& 結果, const QString& 文) {
     連携スロット環境* L = 連携先();
     return 記録付検索(L ? &L->環境接続 : nullptr, 結果, 文, false);
 }
 
-bool データ環境::連携環境DB実行(const QString& 文) {
+bool 接続環境::連携環境DB実行(const QString& 文) {
     連携スロット環境* L = 連携先();
     return 記録付実行(L ? &L->環境接続 : nullptr, 文, false);
 }

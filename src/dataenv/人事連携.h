@@ -9,6 +9,7 @@
 // the slot's application folder, its own database definition, its two connections, and the
 // folders of its company row.
 struct 連携スロット環境 {
+    QString アプリフォルダ;  // the slot's 連携アプリフォルダ, the root of the other system's tree
     QString プログラムフォルダ;
     QString 共通環境フォルダ;
     QString 共通帳票フォルダ;

@@ -31,7 +31,7 @@ QString 保存名(const QString& 情報名, const QString& 情報識別ID, const
 }
 
 QString 付属書類複写先(const データ環境& e, const QString& 保存名, const QString& 名前) {
-    return e.会社.ドキュメントフォルダ + u"/"_qs + 保存名 + u"_"_qs + 名前;
+    return e.会社設定().会社().ドキュメントフォルダ + u"/"_qs + 保存名 + u"_"_qs + 名前;
 }
 
 QString 付属書類名前(const QString& 書類名) {
@@ -49,8 +49,8 @@ bool 付属書類追加(データ環境& e, const QString& 情報名, const QStr
                   const QString& パス, const QString& タイトル, const 付属書類項目& 項目) {
     QString SEQNo = u"001"_qs;
     記録集合 rs;
-    if (e.業務DB検索(rs, u"SELECT SEQNo FROM M付属書類"_qs + 鍵条件(情報名, 情報識別ID) +
-                             u" ORDER BY SEQNo DESC"_qs)) {
+    if (e.接続().業務DB検索(rs, u"SELECT SEQNo FROM M付属書類"_qs + 鍵条件(情報名, 情報識別ID) +
+                                    u" ORDER BY SEQNo DESC"_qs)) {
         SEQNo = 書式(static_cast<qint64>(数値変換(rs.文字列(u"SEQNo"_qs))) + 1, 数値書式::三桁);
     }
     rs.閉じる();
@@ -70,9 +70,9 @@ bool 付属書類追加(データ環境& e, const QString& 情報名, const QStr
         文字列値(v.科目コード) + 文字列値(v.社員コード) + 文字列値(v.担当者コード) +
         文字列値(v.部門コード) + 文字列値(v.セクションコード) + 文字列値(v.商品コード) +
         文字列値(v.メーカコード) + u","_qs + 書式(v.対象金額, 数値書式::付属書類金額) +
-        文字列値(記録者ID(e.環境)) + u",'"_qs + e.基盤.現在時刻().toString(u"yyyyMMdd HHmmss"_qs) +
-        u"')"_qs;
-    const bool 成功 = e.業務DB実行(文, false);
+        文字列値(記録者ID(e.接続().環境())) + u",'"_qs +
+        e.基盤().現在時刻().toString(u"yyyyMMdd HHmmss"_qs) + u"')"_qs;
+    const bool 成功 = e.接続().業務DB実行(文, false);
     // Only a path is copied; the name is read from the disk, so a vanished file copies nothing.
     if (成功 && パス.trimmed().contains(u'/')) {
         const QFileInfo 情報(パス);
@@ -83,32 +83,32 @@ bool 付属書類追加(データ環境& e, const QString& 情報名, const QStr
 
 bool 付属書類削除(データ環境& e, const QString& 情報名, const QString& 情報識別ID,
                   const QString& SEQNo) {
-    return e.業務DB実行(u"DELETE FROM M付属書類"_qs + 鍵条件(情報名, 情報識別ID) +
-                        u" AND SEQNo = '"_qs + SEQNo + u"'"_qs);
+    return e.接続().業務DB実行(u"DELETE FROM M付属書類"_qs + 鍵条件(情報名, 情報識別ID) +
+                               u" AND SEQNo = '"_qs + SEQNo + u"'"_qs);
 }
 
 void 付属書類複写(データ環境& e, const QString& パス, const QString& 保存名) {
-    e.基盤.画面使用可否(主画面, false);
+    e.基盤().画面使用可否(主画面, false);
     const QFileInfo 情報(パス);
     if (!情報.isDir()) {
         if (情報.isFile()) ファイル複写(パス, 付属書類複写先(e, 保存名, 情報.fileName()));
     } else {
-        e.基盤.お待ち表示(true);
-        e.基盤.保留イベント処理();
+        e.基盤().お待ち表示(true);
+        e.基盤().保留イベント処理();
         フォルダ複写(パス, 付属書類複写先(e, 保存名, 情報.fileName()));
-        e.基盤.お待ち表示(false);
+        e.基盤().お待ち表示(false);
     }
-    e.基盤.画面使用可否(主画面, true);
+    e.基盤().画面使用可否(主画面, true);
 }
 
 void 付属書類実体削除(データ環境& e, const QString& 名前, const QString& 保存名) {
-    e.基盤.画面使用可否(主画面, false);
-    e.基盤.保留イベント処理();
+    e.基盤().画面使用可否(主画面, false);
+    e.基盤().保留イベント処理();
     const QString 先 = 付属書類複写先(e, 保存名, 名前);
     if (フォルダ有無確認(先)) {
-        e.基盤.お待ち表示(true);
+        e.基盤().お待ち表示(true);
         フォルダ削除(先);
-        e.基盤.お待ち表示(false);
+        e.基盤().お待ち表示(false);
     } else {
         // The copy and anything that begins with its name, as the suite's pattern "name*.*";
         // compared as text, so that brackets and stars in a name stand for themselves.
@@ -120,18 +120,18 @@ void 付属書類実体削除(データ環境& e, const QString& 名前, const Q
         }
         for (const QString& f : 該当) フォルダ.remove(f);
     }
-    e.基盤.画面使用可否(主画面, true);
+    e.基盤().画面使用可否(主画面, true);
 }
 
 bool 付属書類表示(データ環境& e, const QString& 名前, const QString& 保存名) {
-    return ファイル実行(付属書類複写先(e, 保存名, 名前), e.基盤);
+    return ファイル実行(付属書類複写先(e, 保存名, 名前), e.基盤());
 }
 
 QList<付属書類行> 付属書類一覧(データ環境& e, const QString& 情報名, const QString& 情報識別ID) {
     QList<付属書類行> 一覧;
     記録集合 rs;
-    if (e.業務DB検索(rs, u"SELECT *"_qs + u" FROM M付属書類"_qs + 鍵条件(情報名, 情報識別ID) +
-                             u" ORDER BY SEQNo"_qs)) {
+    if (e.接続().業務DB検索(rs, u"SELECT *"_qs + u" FROM M付属書類"_qs +
+                                    鍵条件(情報名, 情報識別ID) + u" ORDER BY SEQNo"_qs)) {
         for (; !rs.EOFか(); rs.MoveNext()) {
             付属書類行 行;
             const QString SEQNo = rs.文字列(u"SEQNo"_qs);
@@ -160,7 +160,7 @@ QList<付属書類行> 付属書類一覧(データ環境& e, const QString& 情
 bool 付属書類有無(データ環境& e, const QString& 情報名, const QString& 情報識別ID) {
     記録集合 rs;
     const bool ある =
-        e.業務DB検索(rs, u"SELECT SEQNo FROM M付属書類"_qs + 鍵条件(情報名, 情報識別ID));
+        e.接続().業務DB検索(rs, u"SELECT SEQNo FROM M付属書類"_qs + 鍵条件(情報名, 情報識別ID));
     rs.閉じる();
     return ある;
 }

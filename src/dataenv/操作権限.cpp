@@ -1,6 +1,8 @@
 #include "dataenv/操作権限.h"
 
-#include "dataenv/データ環境.h"
+#include "dataenv/会社環境.h"
+#include "dataenv/接続環境.h"
+#include "dataenv/操作者環境.h"
 #include "text/プラットフォーム.h"
 #include "text/数値変換.h"
 
@@ -43,28 +45,31 @@ bool 権限値許可(const QString& 値) {
     }
 }
 
-bool データ環境::操作者読込() {
-    操作者.担当者コード.clear();
+操作者環境::操作者環境(接続環境& 接続_, const 会社環境& 会社設定_)
+    : 接続(接続_), 会社設定(会社設定_) {}
+
+bool 操作者環境::操作者読込() {
+    操作者_.担当者コード.clear();
     記録集合 rs;
-    if (環境DB検索(rs, u"SELECT * FROM 動作環境定義 WHERE 動作環境定義ID = '001'"_qs) &&
+    if (接続.環境DB検索(rs, u"SELECT * FROM 動作環境定義 WHERE 動作環境定義ID = '001'"_qs) &&
         !rs.Null(u"起動担当者コード"_qs)) {
-        操作者.担当者コード = rs.文字列(u"起動担当者コード"_qs);
+        操作者_.担当者コード = rs.文字列(u"起動担当者コード"_qs);
     }
     rs.閉じる();
     // Another program may have changed the operator meanwhile: what this run writes from now
     // on carries the one read here.
-    環境.起動担当者コード = 操作者.担当者コード;
-    return !操作者.担当者コード.trimmed().isEmpty();
+    接続.起動担当者コード設定(操作者_.担当者コード);
+    return !操作者_.担当者コード.trimmed().isEmpty();
 }
 
-bool データ環境::操作者情報読込(const QString& 担当者コード) {
+bool 操作者環境::操作者情報読込(const QString& 担当者コード) {
     記録集合 rs;
     const bool 行あり =
-        業務DB検索(rs, u"SELECT M担当者.*"_qs + u" FROM M担当者"_qs +
-                           u" WHERE M担当者.コード = '"_qs + 担当者コード + u"'"_qs);
+        接続.業務DB検索(rs, u"SELECT M担当者.*"_qs + u" FROM M担当者"_qs +
+                                u" WHERE M担当者.コード = '"_qs + 担当者コード + u"'"_qs);
     if (行あり) {
         // A Null column leaves what the record held.
-        auto& o = 操作者;
+        auto& o = 操作者_;
         文字列で写す(rs, u"コード", o.担当者コード);
         文字列で写す(rs, u"氏名", o.氏名);
         文字列で写す(rs, u"事業所コード", o.事業所コード);
@@ -84,56 +89,56 @@ bool データ環境::操作者情報読込(const QString& 担当者コード) {
     return 行あり;
 }
 
-void データ環境::操作者確定() {
-    const QString コード = 操作者.担当者コード;
+void 操作者環境::操作者確定() {
+    const QString コード = 操作者_.担当者コード;
     if (コード.trimmed().isEmpty()) return;
-    if (!環境DB実行記録付(u"UPDATE 動作環境定義 SET "_qs + u"起動担当者コード = '"_qs + コード +
-                          u"' "_qs + u" WHERE 動作環境定義ID = '001'"_qs)) {
-        基盤.メッセージ(u"データベースに問題が発生し修正できませんでした。"_qs);
+    if (!接続.環境DB実行記録付(u"UPDATE 動作環境定義 SET "_qs + u"起動担当者コード = '"_qs +
+                               コード + u"' "_qs + u" WHERE 動作環境定義ID = '001'"_qs)) {
+        接続.基盤().メッセージ(u"データベースに問題が発生し修正できませんでした。"_qs);
         return;
     }
-    環境.起動担当者コード = コード;
+    接続.起動担当者コード設定(コード);
     操作者情報読込(コード);
 }
 
-bool データ環境::操作権限判定(const QString& 業務メニュー, const QString& プログラムID_,
+bool 操作者環境::操作権限判定(const QString& 業務メニュー, const QString& プログラムID_,
                               short 操作区分) {
     bool 判定 = false;
     bool 発見 = false;
-    if (!操作者.担当者コード.isEmpty()) {
+    if (!操作者_.担当者コード.isEmpty()) {
         QString 文 = u"SELECT 担当者別操作許可プログラム.*"_qs +
                      u" FROM 担当者別操作許可プログラム"_qs +
                      u" WHERE 担当者別操作許可プログラム.担当者コード = '"_qs +
-                     操作者.担当者コード + u"'"_qs;
+                     操作者_.担当者コード + u"'"_qs;
         if (業務メニューか(業務メニュー)) {
             文 += u" AND 担当者別操作許可プログラム.業務メニュ = '"_qs + 業務メニュー + u"'"_qs;
         }
         文 += u" AND 担当者別操作許可プログラム.プログラムID = '"_qs + プログラムID_ + u"'"_qs;
         記録集合 rs;
-        if (業務DB検索(rs, 文)) {
+        if (接続.業務DB検索(rs, 文)) {
             // The operator's own row for the program replaces his general rights.
-            操作権限列読込(rs, 操作者);
-            判定 = 権限値許可(操作者.操作許可);
+            操作権限列読込(rs, 操作者_);
+            判定 = 権限値許可(操作者_.操作許可);
             発見 = true;
         }
         rs.閉じる();
     }
     if (!発見) {
         記録集合 rs;
-        if (環境DB検索(rs, u"SELECT *"_qs + u" FROM "_qs + 業務メニュー +
-                               u" WHERE プログラムID = '"_qs + プログラムID_ + u"'"_qs)) {
+        if (接続.環境DB検索(rs, u"SELECT *"_qs + u" FROM "_qs + 業務メニュー +
+                                    u" WHERE プログラムID = '"_qs + プログラムID_ + u"'"_qs)) {
             const short 分類 = rs.整数(u"処理分類"_qs);
             if (分類 == 3) {
                 // Branch work: a company without branches may do it, its head office never.
-                if (事業所件数 <= 0) {
+                if (会社設定.事業所件数() <= 0) {
                     判定 = true;
-                } else if (環境.運用事業所コード == u"000") {
+                } else if (接続.環境().運用事業所コード == u"000") {
                     判定 = false;
                 } else {
-                    判定 = 権限値許可(操作者.処理分類操作許可[3]);
+                    判定 = 権限値許可(操作者_.処理分類操作許可[3]);
                 }
             } else if (分類 >= 0 && 分類 <= 9) {
-                判定 = 権限値許可(操作者.処理分類操作許可[分類]);
+                判定 = 権限値許可(操作者_.処理分類操作許可[分類]);
             } else {
                 判定 = true;
             }
@@ -141,43 +146,44 @@ bool データ環境::操作権限判定(const QString& 業務メニュー, cons
         rs.閉じる();
     }
     if (判定) {
-        if (const QString* 権利 = 操作者.権限(操作区分); 権利 && !権限値許可(*権利)) 判定 = false;
+        if (const QString* 権利 = 操作者_.権限(操作区分); 権利 && !権限値許可(*権利)) 判定 = false;
     }
     return 判定;
 }
 
-bool データ環境::操作権限照会(const QString& 業務メニュー, const QString& プログラムID_,
+bool 操作者環境::操作権限照会(const QString& 業務メニュー, const QString& プログラムID_,
                               short 操作区分) {
-    権限確認済 = false;
+    権限確認済_ = false;
     if (!操作者読込()) return false;
-    if (!操作者情報読込(操作者.担当者コード)) return false;
+    if (!操作者情報読込(操作者_.担当者コード)) return false;
     const bool 判定 = 操作権限判定(業務メニュー, プログラムID_, 操作区分);
-    if (判定) 権限確認済 = true;
+    if (判定) 権限確認済_ = true;
     return 判定;
 }
 
-short データ環境::操作権限確認(const QString& 業務メニュー, const QString& プログラムID_,
+short 操作者環境::操作権限確認(const QString& 業務メニュー, const QString& プログラムID_,
                                short 操作区分) {
     操作権限照会(業務メニュー, プログラムID_, 操作区分);
     // A company without PINs does not enforce rights at all.
-    if (暗証番号要否 != 1) return -1;
-    if (権限確認済) return -1;
-    暗証確認題名 = 業務メニュー + u"/暗証確認"_qs;
-    基盤.画面表示(u"msg暗証番号確認"_qs, true);
-    if (!権限確認済) return 0;
+    if (会社設定.暗証番号要否() != 1) return -1;
+    if (権限確認済_) return -1;
+    暗証確認題名_ = 業務メニュー + u"/暗証確認"_qs;
+    接続.基盤().画面表示(u"msg暗証番号確認"_qs, true);
+    if (!権限確認済_) return 0;
     return 操作権限判定(業務メニュー, プログラムID_, 操作区分) ? -1 : 1;
 }
 
-QString データ環境::画面タイトル設定() {
-    const QString& 事業所コード = 環境.運用事業所コード;
+QString 操作者環境::画面タイトル設定() {
+    const QString& 事業所コード = 接続.環境().運用事業所コード;
     QString 事業所名;
     記録集合 rs;
-    if (業務DB検索(rs, u"SELECT * FROM M事業所 WHERE コード = '"_qs + 事業所コード + u"'"_qs)) {
+    if (接続.業務DB検索(rs,
+                        u"SELECT * FROM M事業所 WHERE コード = '"_qs + 事業所コード + u"'"_qs)) {
         事業所名 = rs.文字列(u"名称"_qs);
     }
     rs.閉じる();
 
-    QString 題 = プログラムID;
+    QString 題 = 接続.プログラムID();
     const std::pair<const char16_t*, const char16_t*> 呼び名[] = {
         {u"翠嶺データ管理", u"データ管理"},
         {u"翠嶺補助機能", u"補助機能"},
@@ -185,26 +191,13 @@ QString データ環境::画面タイトル設定() {
         {u"翠嶺マイメニュ", u"マイメニュー"},
     };
     for (const auto& [ID, 名] : 呼び名) {
-        if (プログラムID == QStringView(ID)) 題 = QString::fromUtf16(名);
+        if (接続.プログラムID() == QStringView(ID)) 題 = QString::fromUtf16(名);
     }
     if (事業所コード != u"000") {
         if (!事業所名.trimmed().isEmpty()) 題 += u"("_qs + 事業所名 + u")"_qs;
-    } else if (事業所件数 > 0) {
+    } else if (会社設定.事業所件数() > 0) {
         題 += u"(全社)"_qs;
     }
-    if (!操作者.担当者コード.isEmpty()) 題 += u"「"_qs + 操作者.氏名 + u"」"_qs;
+    if (!操作者_.担当者コード.isEmpty()) 題 += u"「"_qs + 操作者_.氏名 + u"」"_qs;
     return 題;
-}
-
-bool データ環境::条件項目名保存(const QString& 表名, const QString& プログラムID_,
-                                const QStringList& 項目名) {
-    QString 文 = u"UPDATE "_qs + 表名 + u" SET "_qs;
-    for (int i = 0; i < 26; ++i) {
-        文 += u" 条件項目名"_qs + QChar(u'A' + i) + u" = '"_qs + 項目名.value(i) + u"'"_qs +
-              (i < 25 ? u","_qs : QString());
-    }
-    文 += u" WHERE プログラムID = '"_qs + プログラムID_ + u"'"_qs;
-    if (環境DB実行(文)) return true;
-    基盤.メッセージ(u"システムデータベースに問題があり登録できません"_qs);
-    return false;
 }

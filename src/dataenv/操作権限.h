@@ -52,7 +52,7 @@ void 操作権限列読込(const 記録集合& rs, 操作者情報& 先);
 // Whether a right's text permits: its numeric value is 0, as it is for an empty text.
 bool 権限値許可(const QString& 値);
 
-// The answer of データ環境::操作権限確認: -1 permitted; 0 (nobody confirmed) and 1 (confirmed by
+// The answer of 操作者環境::操作権限確認: -1 permitted; 0 (nobody confirmed) and 1 (confirmed by
 // PIN, but refused) both refuse.
 inline bool 操作権限OK(short 結果) {
     return 結果 == -1;

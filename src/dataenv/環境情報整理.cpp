@@ -1,4 +1,4 @@
-#include "dataenv/データ環境.h"
+#include "dataenv/接続環境.h"
 #include "text/プラットフォーム.h"
 
 namespace {
@@ -21,13 +21,13 @@ constexpr 整理対象 整理表[] = {
 
 }  // namespace
 
-void データ環境::環境情報整理() {
+void 接続環境::環境情報整理() {
     for (const 整理対象& 対象 : 整理表) {
         const QString 表 = QString::fromUtf16(対象.表);
         const QString 列 = QString::fromUtf16(対象.日時列);
         // The age columns hold "yyyymmdd hhnnss", so "<=" on the text compares times.
         const auto 期限 = [&] {
-            const QDateTime 限 = 基盤.現在時刻().addMonths(-対象.月数).addDays(-対象.日数);
+            const QDateTime 限 = 基盤_.現在時刻().addMonths(-対象.月数).addDays(-対象.日数);
             return u"'"_qs + 限.toString(u"yyyyMMdd HHmmss"_qs) + u"'"_qs;
         };
         // Asked first, so that a file with nothing to purge is not written to.

@@ -24,7 +24,7 @@ struct 登録期間 {
 
 bool 勘定対応読込(データ環境& 環境, QHash<QString, 勘定対応>& 対応) {
     記録集合 rs;
-    const bool 成功 = 環境.業務DB検索(
+    const bool 成功 = 環境.接続().業務DB検索(
         rs, u"SELECT 費目区分, 勘定科目, 補助科目, 非課税区分 FROM K紺碧勘定対応"_qs);
     for (; 成功 && !rs.EOFか(); rs.MoveNext()) {
         対応.insert(rs.文字列(u"費目区分"_qs),
@@ -37,7 +37,7 @@ bool 勘定対応読込(データ環境& 環境, QHash<QString, 勘定対応>& �
 
 bool 登録読込(データ環境& 環境, QHash<QString, QList<登録期間>>& 登録) {
     記録集合 rs;
-    const bool 成功 = 環境.業務DB検索(
+    const bool 成功 = 環境.接続().業務DB検索(
         rs, u"SELECT 支払先, 有効開始日, 有効終了日, 登録番号 FROM M紺碧支払先登録"_qs);
     for (; 成功 && !rs.EOFか(); rs.MoveNext()) {
         登録[rs.文字列(u"支払先"_qs).trimmed()].append({rs.文字列(u"有効開始日"_qs),
@@ -112,7 +112,7 @@ bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, con
     }
     記録集合 rs;
     // No slip in the period is an empty export; only a statement that failed stops it.
-    if (!環境.業務DB検索(rs, 伝票文(指定)) && rs.列数() == 0) {
+    if (!環境.接続().業務DB検索(rs, 伝票文(指定)) && rs.列数() == 0) {
         rs.閉じる();
         エラー = u"伝票が読めません。"_qs;
         return false;

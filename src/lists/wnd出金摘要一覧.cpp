@@ -78,7 +78,7 @@ QString wnd出金摘要一覧::検索文作成() {
                  u" FROM T出金明細"_qs;
     if (期間 < 4) {
         // Worked out on each search, by the calendar from today.
-        const QDate 今日 = d.基盤.現在時刻().date();
+        const QDate 今日 = d.基盤().現在時刻().date();
         const QDate 起点 = 期間 == 0   ? 今日.addMonths(-3)
                            : 期間 == 1 ? 今日.addYears(-1)
                            : 期間 == 2 ? 今日.addYears(-3)

@@ -91,9 +91,9 @@ QString wnd担当者一覧::検索文作成() {
     }
     呼出条件句(q);
     const QString 全社 = ゼロ文字列(3);
-    if (d.環境.運用事業所コード != 全社) {
-        q.加える(u" AND ("_qs + T + u".事業所コード = '"_qs + d.作業事業所コード + u"' OR "_qs + T +
-                 u".事業所コード = '"_qs + 全社 + u"')"_qs);
+    if (d.接続().環境().運用事業所コード != 全社) {
+        q.加える(u" AND ("_qs + T + u".事業所コード = '"_qs + d.接続().作業事業所コード() +
+                 u"' OR "_qs + T + u".事業所コード = '"_qs + 全社 + u"')"_qs);
     }
     // One field's clause: "<T>.<column> <op> '" with its negation and what closes it.
     const auto 句 = [&](const QString& 欄名, const QString& 列名, const QString& 正,

@@ -75,7 +75,7 @@ void wnd社員一覧::状態を写す(const 記録集合& rs, const QString& 接
 }
 
 void wnd社員一覧::社員状態判定(const QString& 社員コード) {
-    const QString T = d.基盤.現在時刻().toString(u"yyyyMMdd"_qs);
+    const QString T = d.基盤().現在時刻().toString(u"yyyyMMdd"_qs);
     const QString& C = 社員コード;
     状態 = {};
     状態.社員コード = C;
@@ -83,7 +83,7 @@ void wnd社員一覧::社員状態判定(const QString& 社員コード) {
     状態.在籍区分名 = u"在籍"_qs;
     記録集合 rs;
     const auto 読む = [&](const QString& 文) {
-        const bool 行あり = d.業務DB検索(rs, 文, true);
+        const bool 行あり = d.接続().業務DB検索(rs, 文, true);
         if (!行あり) rs.閉じる();
         return 行あり;
     };
@@ -191,7 +191,7 @@ void wnd社員一覧::社員条件照合(bool& 照合) const {
     const QString カナ = 条件値(u"カナ"_qs, 2);
     if (!カナ.isEmpty() && !状態.カナ.contains(カナ, Qt::CaseInsensitive)) return;
     const QString 全社 = ゼロ文字列(3);
-    const QString& 運用 = d.環境.運用事業所コード;
+    const QString& 運用 = d.接続().環境().運用事業所コード;
     if (運用 != 全社 && 状態.事業所コード != 全社 && 状態.事業所コード != 運用) return;
     const QString 部門 = 条件値(u"部門コード"_qs, 4);
     if (!部門.isEmpty() && 部門 != 状態.部門コード) return;

@@ -65,8 +65,8 @@ QString 番号一覧::検索文作成() {
         return {};
     }
     // Only the documents of the office at work, unless that is the whole company.
-    if (d.作業事業所コード != ゼロ文字列(3)) {
-        q.加える(QString::fromUtf16(定.事業所句) + d.作業事業所コード + u"'"_qs);
+    if (d.接続().作業事業所コード() != ゼロ文字列(3)) {
+        q.加える(QString::fromUtf16(定.事業所句) + d.接続().作業事業所コード() + u"'"_qs);
     }
     呼出条件句(q);
     const char16_t* 順 = 定.新しい順;

@@ -12,7 +12,7 @@ namespace {
 QHash<short, QString> 区分名称(データ環境& d, const QString& 表) {
     QHash<short, QString> 名称;
     記録集合 rs;
-    if (d.業務DB検索(rs, u"SELECT 区分, 名称 FROM "_qs + 表 + u" ORDER BY 区分"_qs)) {
+    if (d.接続().業務DB検索(rs, u"SELECT 区分, 名称 FROM "_qs + 表 + u" ORDER BY 区分"_qs)) {
         for (; !rs.EOFか(); rs.MoveNext()) 名称.insert(rs.整数(u"区分"_qs), rs.文字列(u"名称"_qs));
     }
     rs.閉じる();
@@ -21,7 +21,7 @@ QHash<short, QString> 区分名称(データ環境& d, const QString& 表) {
 
 QString 名称(データ環境& d, const QString& 文) {
     記録集合 rs;
-    const QString 値 = d.業務DB検索(rs, 文) ? rs.文字列(u"名称"_qs) : QString();
+    const QString 値 = d.接続().業務DB検索(rs, 文) ? rs.文字列(u"名称"_qs) : QString();
     rs.閉じる();
     return 値;
 }
@@ -37,7 +37,7 @@ bool 出金伝票読込(出金セッション& s, const 帳票指定& 指定, �
     const QString 文 = u"SELECT TOP 1"_qs + 出金見出し列 + 出金見出し結合 +
                        伝票鍵{指定.事業所コード, 基準日付, 指定.出金No自}.条件(鍵の列::T出金読込) +
                        u" AND T出金.出金日付 = '"_qs + 指定.出金日付自 + u"'"_qs;
-    if (基準日付.isEmpty() || !d.業務DB検索(rs, 文)) {
+    if (基準日付.isEmpty() || !d.接続().業務DB検索(rs, 文)) {
         rs.閉じる();
         エラー = u"伝票が登録されていません。\n"_qs + 伝票;
         return false;
@@ -54,7 +54,7 @@ bool 出金伝票読込(出金セッション& s, const 帳票指定& 指定, �
     s.出金明細読込();
 
     帳票 = {};
-    帳票.会社名 = d.会社.名称;
+    帳票.会社名 = d.会社設定().会社().名称;
     帳票.事業所コード = h.事業所コード;
     帳票.事業所名 =
         名称(d, u"SELECT 名称 FROM M事業所 WHERE コード = '"_qs + h.事業所コード + u"'"_qs);

@@ -8,12 +8,12 @@
 
 紺碧帳書::紺碧帳書(プラットフォーム& 基盤, const QString& 自身のフォルダ)
     : s(基盤, u"紺碧帳書"_qs) {
-    s.データ.自身のフォルダ = 自身のフォルダ;
+    s.データ.接続().自身のフォルダ設定(自身のフォルダ);
 }
 
 int 紺碧帳書::拒否(const QString& 文言) {
-    s.データ.基盤.メッセージ(文言);
-    s.データ.接続終了();
+    s.データ.基盤().メッセージ(文言);
+    s.データ.接続().接続終了();
     return 1;
 }
 
@@ -23,8 +23,8 @@ int 紺碧帳書::実行(const QString& 引数) {
     // The argument is read before anything is opened, so a wrong one leaves no trace.
     if (!帳票指定::解析(引数, 指定, エラー)) return 拒否(エラー);
     データ環境& d = s.データ;
-    d.コマンドライン = 引数;
-    if (!d.SYB_OPEN() || !d.DB_OPEN() || !d.基本項目読込()) {
+    d.接続().コマンドライン設定(引数);
+    if (!d.接続().SYB_OPEN() || !d.接続().DB_OPEN() || !d.会社設定().基本項目読込()) {
         return 拒否(u"データベースが使用できません。"_qs);
     }
     if (!出金伝票読込(s, 指定, 帳票, エラー)) return 拒否(エラー);
@@ -39,14 +39,14 @@ int 紺碧帳書::実行(const QString& 引数) {
     } else {
         出力 = true;
     }
-    d.接続終了();
+    d.接続().接続終了();
     // A print or preview the operator closed unused is no failure of the program.
     return 出力 || 指定.出力区分 != u"3" ? 0 : 1;
 }
 
 bool 紺碧帳書::PDF出力() {
     データ環境& d = s.データ;
-    const QString フォルダ = d.会社.ドキュメントフォルダ;
+    const QString フォルダ = d.会社設定().会社().ドキュメントフォルダ;
     if (フォルダ.trimmed().isEmpty()) {
         拒否(u"ドキュメントフォルダが設定されていません。\nPDFは作成しませんでした。"_qs);
         return false;

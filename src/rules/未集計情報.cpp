@@ -1,15 +1,16 @@
 #include "rules/未集計情報.h"
 
-#include "dataenv/データ環境.h"
+#include "dataenv/会社情報.h"
+#include "dataenv/接続環境.h"
 #include "rules/番号設定.h"
 #include "text/数値変換.h"
 
-bool 未集計情報は業務DBへ(const データ環境& e) {
-    return e.会社.更新実行区分 == 1;
+bool 未集計情報は業務DBへ(const 会社情報& 会社) {
+    return 会社.更新実行区分 == 1;
 }
 
-書込結果 未集計情報書込(データ環境& e, const QString& 登録情報区分, const QString& 赤黒区分,
-                        const QString& 番号ID, const QString& 事業所コード,
+書込結果 未集計情報書込(接続環境& 接続, const 会社情報& 会社, const QString& 登録情報区分,
+                        const QString& 赤黒区分, const QString& 番号ID, const QString& 事業所コード,
                         const QString& 番号基準日付, const QString& 伝票No, const QString& 履歴No) {
     const QString 文 = u"INSERT INTO [未集計情報] "_qs + u"(事業所コード"_qs + u",番号ID"_qs +
                        u",番号基準日付"_qs + u",履歴No"_qs + u",赤黒区分"_qs + u",伝票No"_qs +
@@ -18,21 +19,22 @@ bool 未集計情報は業務DBへ(const データ環境& e) {
                        u",'"_qs + 番号ID + u"'"_qs + u",'"_qs + 番号基準日付 + u"'"_qs + u",'"_qs +
                        履歴No + u"'"_qs + u",'"_qs + 赤黒区分 + u"'"_qs + u",'"_qs + 伝票No +
                        u"'"_qs + u",''"_qs + u",'0'"_qs + u",'"_qs + 登録情報区分 + u"'"_qs +
-                       u",'"_qs + 記録者ID(e.環境) + u"')"_qs;
-    const bool 成功 = 未集計情報は業務DBへ(e) ? e.業務DB実行(文, true) : e.環境DB実行(文);
+                       u",'"_qs + 記録者ID(接続.環境()) + u"')"_qs;
+    const bool 成功 = 未集計情報は業務DBへ(会社) ? 接続.業務DB実行(文, true) : 接続.環境DB実行(文);
     if (成功) return {1, {}};
     return {3, u"登録済です。登録できませんでした。"_qs};
 }
 
-std::optional<書込結果> 出金未集計情報書込(データ環境& e, const 保存状態& 状態) {
+std::optional<書込結果> 出金未集計情報書込(接続環境& 接続, const 会社情報& 会社,
+                                           const 保存状態& 状態) {
     std::optional<書込結果> 結果;
     const QString 番号ID = 番号定数::出金番号ID.toString();
     if (数値変換(状態.旧出金履歴No) != 0) {
-        結果 = 未集計情報書込(e, 状態.処理区分, u"0"_qs, 番号ID, 状態.事業所コード,
+        結果 = 未集計情報書込(接続, 会社, 状態.処理区分, u"0"_qs, 番号ID, 状態.事業所コード,
                               状態.旧番号基準日付, 状態.旧出金No, 状態.旧出金履歴No);
     }
     if (数値変換(状態.出金履歴No) != 0) {
-        結果 = 未集計情報書込(e, 状態.処理区分, u"1"_qs, 番号ID, 状態.事業所コード,
+        結果 = 未集計情報書込(接続, 会社, 状態.処理区分, u"1"_qs, 番号ID, 状態.事業所コード,
                               状態.番号基準日付, 状態.出金No, 状態.出金履歴No);
     }
     return 結果;

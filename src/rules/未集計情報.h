@@ -6,7 +6,8 @@
 
 #include "dataenv/環境情報.h"
 
-class データ環境;
+class 接続環境;
+struct 会社情報;
 
 // How a write ended, in the session values that a store keeps: 1 and empty, or 3 and its text.
 struct 書込結果 {
@@ -16,13 +17,13 @@ struct 書込結果 {
 
 // Whether queue rows go to the general database (更新実行区分 1) rather than the
 // configuration database.
-bool 未集計情報は業務DBへ(const データ環境& e);
+bool 未集計情報は業務DBへ(const 会社情報& 会社);
 
 // One queue row for the aggregation. It goes to the general database, with a history row,
 // when the update program is not started after each store (更新実行区分 1), and otherwise to
 // the configuration database, where that program looks.
-書込結果 未集計情報書込(データ環境& e, const QString& 登録情報区分, const QString& 赤黒区分,
-                        const QString& 番号ID, const QString& 事業所コード,
+書込結果 未集計情報書込(接続環境& 接続, const 会社情報& 会社, const QString& 登録情報区分,
+                        const QString& 赤黒区分, const QString& 番号ID, const QString& 事業所コード,
                         const QString& 番号基準日付, const QString& 伝票No, const QString& 履歴No);
 
 // The two states of one store of a slip: the state replaced, under its kept key, and the state
@@ -36,4 +37,5 @@ struct 保存状態 {
 
 // Queues the old state first, then the new one, each only when it has a history number; the
 // outcome of the last row written, or nothing when no row was due.
-std::optional<書込結果> 出金未集計情報書込(データ環境& e, const 保存状態& 状態);
+std::optional<書込結果> 出金未集計情報書込(接続環境& 接続, const 会社情報& 会社,
+                                           const 保存状態& 状態);

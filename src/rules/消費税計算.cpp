@@ -2,20 +2,11 @@
 
 #include <cmath>
 
-#include "dataenv/データ環境.h"
+#include "dataenv/接続環境.h"
 #include "text/実行時エラー.h"
 #include "text/数値変換.h"
 
 namespace {
-
-// The rate table is read only on the engines the suite knows; PostgreSQL goes the way of SQL
-// Server. Elsewhere the statement stays empty and the query fails.
-QString 税率照会文(const データ環境& 環境, const QString& 日付) {
-    const QString& db = 環境.環境.db;
-    if (db != u"A" && db != u"S" && db != u"O" && db != u"P") return {};
-    return u"SELECT G消費税.* FROM G消費税 WHERE G消費税.施行日 <= '"_qs + 日付 +
-           u"' ORDER BY G消費税.施行日 DESC"_qs;
-}
 
 // A quotient of doubles: a division by zero fails with ゼロ除算, and 0/0 fails as an overflow.
 double 倍精度除算(double 被除数, double 除数) {
@@ -28,10 +19,19 @@ double 倍精度除算(double 被除数, double 除数) {
 
 }  // namespace
 
-金額 消費税率取得(データ環境& 環境, const QString& 日付, short 選択) {
+// The rate table is read only on the engines the suite knows; PostgreSQL goes the way of SQL
+// Server. Elsewhere the statement stays empty and the query fails.
+QString 税率表::照会文(const QString& 日付) const {
+    const QString& db = 接続.環境().db;
+    if (db != u"A" && db != u"S" && db != u"O" && db != u"P") return {};
+    return u"SELECT G消費税.* FROM G消費税 WHERE G消費税.施行日 <= '"_qs + 日付 +
+           u"' ORDER BY G消費税.施行日 DESC"_qs;
+}
+
+金額 税率表::税率(const QString& 日付, short 選択) const {
     記録集合 rs;
     金額 税率;
-    if (環境.業務DB検索(rs, 税率照会文(環境, 日付))) {
+    if (接続.業務DB検索(rs, 照会文(日付))) {
         if (選択 == 0) {
             税率 = rs.金額値(u"消費税率"_qs);
         } else if (選択 == 2) {
@@ -43,10 +43,10 @@ double 倍精度除算(double 被除数, double 除数) {
     return 税率;
 }
 
-税率情報 税率情報取得(データ環境& 環境, const QString& 日付) {
+税率情報 税率表::情報(const QString& 日付) const {
     税率情報 情報;
     記録集合 rs;
-    if (環境.業務DB検索(rs, 税率照会文(環境, 日付))) {
+    if (接続.業務DB検索(rs, 照会文(日付))) {
         情報.施行日 = rs.文字列(u"施行日"_qs);
         情報.税率区分 = rs.文字列(u"税率区分"_qs);
         情報.今回税率 = rs.金額値(u"消費税率"_qs);
@@ -57,6 +57,14 @@ double 倍精度除算(double 被除数, double 除数) {
     }
     rs.閉じる();
     return 情報;
+}
+
+金額 消費税率取得(const 税率表& 表, const QString& 日付, short 選択) {
+    return 表.税率(日付, 選択);
+}
+
+税率情報 税率情報取得(const 税率表& 表, const QString& 日付) {
+    return 表.情報(日付);
 }
 
 金額 税額端数処理(金額 値, short 丸め値, short 桁位置) {
@@ -92,9 +100,9 @@ double 倍精度除算(double 被除数, double 除数) {
     return 税額;
 }
 
-void 明細税率設定(データ環境& 環境, 明細税額& 行, const QString& 出金日付) {
+void 明細税率設定(const 税率表& 表, 明細税額& 行, const QString& 出金日付) {
     if (行.内税外税区分 == 1 || 行.内税外税区分 == 2)
-        行.消費税率 = 消費税率取得(環境, 出金日付, 0);
+        行.消費税率 = 消費税率取得(表, 出金日付, 0);
     else
         行.消費税率 = 金額();
 }
@@ -137,20 +145,20 @@ bool 明細税額手入力(明細税額& 行, 金額 入力税額) {
     return true;
 }
 
-void 明細再計算(データ環境& 環境, 明細税額& 行, const QString& 出金日付) {
-    明細税率設定(環境, 行, 出金日付);
+void 明細再計算(const 税率表& 表, 明細税額& 行, const QString& 出金日付) {
+    明細税率設定(表, 行, 出金日付);
     明細税額再計算(行);
     明細実質金額再計算(行);
 }
 
-void 全明細再計算(データ環境& 環境, std::span<明細税額> 行, const QString& 出金日付) {
-    for (明細税額& 一行 : 行) 明細再計算(環境, 一行, 出金日付);
+void 全明細再計算(const 税率表& 表, std::span<明細税額> 行, const QString& 出金日付) {
+    for (明細税額& 一行 : 行) 明細再計算(表, 一行, 出金日付);
 }
 
-void 費目区分変更時再計算(データ環境& 環境, 明細税額& 行, short 内税外税区分,
+void 費目区分変更時再計算(const 税率表& 表, 明細税額& 行, short 内税外税区分,
                           const QString& 出金日付) {
     行.内税外税区分 = 内税外税区分;
-    明細再計算(環境, 行, 出金日付);
+    明細再計算(表, 行, 出金日付);
 }
 
 void 費目区分不明時設定(明細税額& 行) {
@@ -175,14 +183,14 @@ void 出金金額変更時再計算(明細税額& 行, 金額 出金金額) {
     明細実質金額再計算(行);
 }
 
-void 過去明細取込時再計算(データ環境& 環境, 明細税額& 行, const QString& 出金日付) {
-    行.消費税率 = 消費税率取得(環境, 出金日付, 0);
+void 過去明細取込時再計算(const 税率表& 表, 明細税額& 行, const QString& 出金日付) {
+    行.消費税率 = 消費税率取得(表, 出金日付, 0);
     明細税額再計算(行);
     明細実質金額再計算(行);
 }
 
-void 旅費明細取込時再計算(データ環境& 環境, 明細税額& 行, short 内税外税区分,
+void 旅費明細取込時再計算(const 税率表& 表, 明細税額& 行, short 内税外税区分,
                           const QString& 出金日付) {
     行.内税外税区分 = 内税外税区分;
-    明細再計算(環境, 行, 出金日付);
+    明細再計算(表, 行, 出金日付);
 }

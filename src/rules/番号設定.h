@@ -8,6 +8,7 @@
 #include "dataenv/記録集合.h"
 
 class データ環境;
+class 接続環境;
 class データ接続;
 class プラットフォーム;
 struct 会社情報;
@@ -28,15 +29,17 @@ inline constexpr QStringView 番号情報エラー文言 = u"番号情報に問�
 
 // Where the number routines run: the statements of one database, the message box, and the
 // company settings that choose the tables and the closing dates. The session converts to it
-// for the general database, so callers simply pass their データ環境; another connection (the
-// HR link's) is wrapped with the session, whose run history receives its failures.
+// for the general database, so callers simply pass their データ環境 (or its connections and
+// company row); another connection (the HR link's) is wrapped with the session's connections,
+// whose run history receives its failures.
 class 番号環境 {
   public:
     using 検索関数 = std::function<bool(記録集合&, const QString&)>;
     using 実行関数 = std::function<bool(const QString&)>;
 
     番号環境(データ環境& e);  // NOLINT(google-explicit-constructor): the usual call
-    番号環境(データ接続& 接続, データ環境& e);
+    番号環境(接続環境& 接続, const 会社情報& 会社);
+    番号環境(データ接続& 接続, 接続環境& 記録先, const 会社情報& 会社);
     番号環境(検索関数 検索, 実行関数 実行, プラットフォーム& 基盤, const 会社情報& 会社);
 
     // As 業務DB検索: true when a row stands current; failures are logged, never raised.
@@ -95,7 +98,7 @@ void 事業所別期日別番号行確保(const 番号環境& 環境, const QStr
 
 // Starts the update program that A番号情報 names for the ID, from the program folder, without
 // waiting; nothing when none is named.
-void 更新プログラム起動(データ環境& e, const QString& 番号ID);
+void 更新プログラム起動(接続環境& 接続, const QString& 番号ID);
 
 // The caller's side of numbering: counters have no lock, so a number is taken again until the
 // document table does not hold it yet. There is deliberately no limit on the attempts.

@@ -6,7 +6,7 @@
 
 // Base dates of numbers that live in the HR system's database (its trip applications). They
 // are computed with this company's closing; no number is ever taken there. Pass the link's
-// connection wrapped with the session: 番号環境(連携接続, e).
+// connection wrapped with the session's connections: 番号環境(連携接続, 接続, 会社).
 
 // Picks the company or per-office routine by this company's 伝票番号管理区分.
 QString 連携番号基準日付取得(const 番号環境& 連携, const QString& 番号ID, const QString& 日付,

@@ -1,16 +1,16 @@
 #include "rules/閲覧記録.h"
 
-#include "dataenv/データ環境.h"
+#include "dataenv/接続環境.h"
 #include "rules/未集計情報.h"
 #include "rules/番号設定.h"
 #include "text/プラットフォーム.h"
 #include "text/暦.h"
 
-bool 閲覧記録(データ環境& e, const 閲覧記録指定& 指定) {
+bool 閲覧記録(接続環境& 接続, const 会社情報& 会社, const 閲覧記録指定& 指定) {
     // The counter is read and written back one higher, then the number is checked and the row
     // goes in: as one batch, so that two look-ups at the same moment cannot read one value.
-    業務DB一括 一括(e, u"閲覧記録"_qs);
-    return 閲覧記録(番号環境(e), e.環境, 指定);
+    業務DB一括 一括(接続, u"閲覧記録"_qs);
+    return 閲覧記録(番号環境(接続, 会社), 接続.環境(), 指定);
 }
 
 bool 閲覧記録(const 番号環境& 環境, const プログラム環境情報& 情報, const 閲覧記録指定& 指定) {

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-class データ環境;
+class 接続環境;
+struct 会社情報;
 class 番号環境;
 struct プログラム環境情報;
 
@@ -18,6 +19,6 @@ struct 閲覧記録指定 {
 // Records a look-up before the slip is read, so also one that finds nothing. The browse number
 // is taken under 運用事業所コード and checked against T閲覧 under the row's own office until it
 // is free. True when the row was stored; a failure is only logged.
-bool 閲覧記録(データ環境& e, const 閲覧記録指定& 指定);
+bool 閲覧記録(接続環境& 接続, const 会社情報& 会社, const 閲覧記録指定& 指定);
 // The same on a given general connection, whose numbers and T閲覧 are read and written there.
 bool 閲覧記録(const 番号環境& 環境, const プログラム環境情報& 情報, const 閲覧記録指定& 指定);

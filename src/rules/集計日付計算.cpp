@@ -2,7 +2,7 @@
 
 #include <QDate>
 
-#include "dataenv/データ環境.h"
+#include "dataenv/会社情報.h"
 #include "text/実行時エラー.h"
 #include "text/暦.h"
 
@@ -100,9 +100,9 @@ bool 修正期間判定(const 会社情報& 会社, const QString& 今日, const
     return アクセス権限 == 6;
 }
 
-bool 修正期間確認(const データ環境& 環境, const QString& 出金日付, const QString& 読込時出金日付,
-                  bool 新規, short アクセス権限) {
-    return 修正期間判定(環境.会社, 今日(環境.基盤), 出金日付, 読込時出金日付, 新規, アクセス権限);
+bool 修正期間確認(const 会社情報& 会社, const プラットフォーム& 基盤, const QString& 出金日付,
+                  const QString& 読込時出金日付, bool 新規, short アクセス権限) {
+    return 修正期間判定(会社, 今日(基盤), 出金日付, 読込時出金日付, 新規, アクセス権限);
 }
 
 日付変更番号処置 日付変更時番号判定(bool 新規, const QString& 新基準日付, const QString& 現基準日付,

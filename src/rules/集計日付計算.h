@@ -5,7 +5,7 @@
 #include <functional>
 
 struct 会社情報;
-class データ環境;
+class プラットフォーム;
 
 // Dates are "yyyymmdd" text, compared as text. Everything here follows from the company's
 // 決算月 and 決算日 alone. Out-of-range parts carry over as the date builder does; a year that
@@ -31,9 +31,9 @@ struct 修正可能期間 {
 // date it was loaded with, must lie in the period of today, unless the access right is 6.
 bool 修正期間判定(const 会社情報& 会社, const QString& 今日, const QString& 出金日付,
                   const QString& 読込時出金日付, bool 新規, short アクセス権限);
-// The same with the company of the session and today by its clock.
-bool 修正期間確認(const データ環境& 環境, const QString& 出金日付, const QString& 読込時出金日付,
-                  bool 新規, short アクセス権限);
+// The same with today by the platform's clock.
+bool 修正期間確認(const 会社情報& 会社, const プラットフォーム& 基盤, const QString& 出金日付,
+                  const QString& 読込時出金日付, bool 新規, short アクセス権限);
 
 // What a change of the slip date does to the slip's number, once the number base date of the
 // new date is known.

@@ -27,7 +27,7 @@ frm紺碧帳::frm紺碧帳(出金セッション& セッション) : s(セッシ
     // started, never the program: the operator is told, and the screen listens again.
     画面.異常時 = [this](const std::exception& e) {
         画面使用中 = false;
-        s.データ.基盤.メッセージ(QString::fromUtf8(e.what()));
+        s.データ.基盤().メッセージ(QString::fromUtf8(e.what()));
     };
 }
 
@@ -146,13 +146,13 @@ void frm紺碧帳::題クリック(const 部品& 題) {
 }
 
 void frm紺碧帳::マニュアル表示() {
-    const QString フォルダ = s.データ.環境.マニュアルフォルダ;
-    ファイル実行(フォルダ + u"/"_qs + 文字種変換(u"紺碧帳"_qs) + u".doc"_qs, s.データ.基盤);
+    const QString フォルダ = s.データ.接続().環境().マニュアルフォルダ;
+    ファイル実行(フォルダ + u"/"_qs + 文字種変換(u"紺碧帳"_qs) + u".doc"_qs, s.データ.基盤());
 }
 
 void frm紺碧帳::画面読込(const std::function<void()>& 伝票読込) {
     画面初期配置();
-    画面(欄::prg_ttl).Caption = s.データ.画面タイトル設定();
+    画面(欄::prg_ttl).Caption = s.データ.操作者権限().画面タイトル設定();
     if (伝票読込) 伝票読込();
     画面全表示();
     詳細初期化();
@@ -164,7 +164,7 @@ void frm紺碧帳::画面初期配置() {
     // The allowance for the window frame of the systems this screen was drawn for.
     画面.Height = 知らせ.Top + 知らせ.Height + 380;
     画面.Width = 知らせ.Width + 90;
-    画面.Caption = s.データ.会社.名称 + u"（"_qs + u"紺碧帳"_qs + u"）"_qs;
+    画面.Caption = s.データ.会社設定().会社().名称 + u"（"_qs + u"紺碧帳"_qs + u"）"_qs;
     部品& 行棒 = 画面(欄::scl_行);
     行棒.LargeChange = 5;
     行棒.Enabled = false;
@@ -179,7 +179,7 @@ void frm紺碧帳::一覧を埋める() {
     auto 読む = [this](const QString& 文) {
         QStringList 名称;
         記録集合 rs;
-        if (s.データ.業務DB検索(rs, 文)) {
+        if (s.データ.接続().業務DB検索(rs, 文)) {
             for (; !rs.EOFか(); rs.MoveNext()) 名称.append(rs.文字列(u"名称"_qs));
         }
         rs.閉じる();
@@ -221,7 +221,7 @@ void frm紺碧帳::見出し表示() {
             画面(名).Visible = s.白樺連携フラグ;
         }
         画面(欄::担当者名).TabStop = false;
-        const QString& 帳票 = s.データ.環境.帳票フォルダ;
+        const QString& 帳票 = s.データ.接続().環境().帳票フォルダ;
         画面(欄::btn_帳票イメージ出力).Visible =
             !帳票.isEmpty() && QFile::exists(帳票 + u"/repfrmdb.db"_qs);
     });

@@ -43,7 +43,7 @@ void frm紺碧帳::付属書類ファイル追加() {
     const QString 識別 = 付属書類識別ID();
     // The picker may move the process's folder; it is put back whatever the answer.
     const QString 元 = QDir::currentPath();
-    const QString パス = d.基盤.ファイル選択(QDir::homePath(), 書類絞込);
+    const QString パス = d.基盤().ファイル選択(QDir::homePath(), 書類絞込);
     if (!パス.isEmpty()) {
         const QString 題 = ファイル基本名取得(パス);
         if (!題.isEmpty()) 付属書類追加(d, 出金情報名, 識別, パス, 題, 出金付属書類項目(s));
@@ -58,7 +58,7 @@ void frm紺碧帳::付属書類フォルダ追加() {
     const QString 識別 = 付属書類識別ID();
     const QString 元 = QDir::currentPath();
     const QString 開始 = QDir::homePath();
-    const QString パス = d.基盤.フォルダ選択(u"書類を選択して下さい"_qs, 開始);
+    const QString パス = d.基盤().フォルダ選択(u"書類を選択して下さい"_qs, 開始);
     // The start folder itself given back counts as no choice.
     if (!パス.isEmpty() && パス != 開始) {
         const QString 題 = ファイル基本名取得(パス);
@@ -74,14 +74,14 @@ void frm紺碧帳::付属書類を外す(const QString& Key) {
     メッセージ指定 問い;
     問い.本文 = u"付属書類から削除しますか？"_qs;
     問い.ボタン = ボタン種別::はいいいえ;
-    if (d.基盤.メッセージ表示(問い) == 応答::はい) {
+    if (d.基盤().メッセージ表示(問い) == 応答::はい) {
         QString 識別, SEQNo;
         付属書類キー分解(Key, 識別, SEQNo);
         記録集合 rs;
         const QString 書類名 =
-            d.業務DB検索(rs, u"SELECT 書類名 FROM M付属書類 WHERE 情報名 = '"_qs + 出金情報名 +
-                                 u"' AND 情報識別ID = '"_qs + 識別 + u"' AND SEQNo = '"_qs + SEQNo +
-                                 u"'"_qs)
+            d.接続().業務DB検索(rs, u"SELECT 書類名 FROM M付属書類 WHERE 情報名 = '"_qs +
+                                        出金情報名 + u"' AND 情報識別ID = '"_qs + 識別 +
+                                        u"' AND SEQNo = '"_qs + SEQNo + u"'"_qs)
                 ? rs.文字列(u"書類名"_qs)
                 : QString();
         rs.閉じる();
@@ -103,9 +103,9 @@ void frm紺碧帳::付属書類を開く(const QString& Key) {
     QString 識別, SEQNo;
     付属書類キー分解(Key, 識別, SEQNo);
     記録集合 rs;
-    const bool ある = d.業務DB検索(rs, u"SELECT 書類名 FROM M付属書類 WHERE 情報名 = '"_qs +
-                                           出金情報名 + u"' AND 情報識別ID = '"_qs + 識別 +
-                                           u"' AND SEQNo = '"_qs + SEQNo + u"'"_qs);
+    const bool ある = d.接続().業務DB検索(rs, u"SELECT 書類名 FROM M付属書類 WHERE 情報名 = '"_qs +
+                                                  出金情報名 + u"' AND 情報識別ID = '"_qs + 識別 +
+                                                  u"' AND SEQNo = '"_qs + SEQNo + u"'"_qs);
     const QString 書類名 = rs.文字列(u"書類名"_qs);
     rs.閉じる();
     if (ある) 付属書類表示(d, 付属書類名前(書類名), 保存名(出金情報名, 識別, SEQNo));

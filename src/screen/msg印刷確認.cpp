@@ -45,7 +45,7 @@ msg印刷確認::msg印刷確認(出金セッション& セッション) : s(セ
     画面(欄::btn_登録).Click = [this] { 答える(1); };
     画面(欄::btn_いいえ).Click = [this] { 答える(2); };
     // Loading counts as いいえ, so that a close by the frame stores nothing.
-    s.データ.基盤.画面事象登録(画面.名前, {.読込 = [this] { s.登録確認結果 = 2; }, .枠閉じ = {}});
+    s.データ.基盤().画面事象登録(画面.名前, {.読込 = [this] { s.登録確認結果 = 2; }, .枠閉じ = {}});
 }
 
 void msg印刷確認::登録確認(const QString& 題, const QString& 注記, const QString& 本文, int 色) {
@@ -58,10 +58,10 @@ void msg印刷確認::登録確認(const QString& 題, const QString& 注記, co
     画面(欄::btn_いいえ).TabIndex = 1;
     画面(欄::btn_登録印刷).TabIndex = 2;
     画面.SetFocus(画面(欄::btn_登録));
-    s.データ.基盤.画面表示(画面.名前, true);
+    s.データ.基盤().画面表示(画面.名前, true);
 }
 
 void msg印刷確認::答える(short 結果) {
     s.登録確認結果 = 結果;
-    s.データ.基盤.画面終了(画面.名前);
+    s.データ.基盤().画面終了(画面.名前);
 }

@@ -20,7 +20,7 @@ const QString 該当なし文言 = u"該当情報がありません。"_qs;
 bool マスタ検索(データ環境& データ, 記録集合& 結果, const QString& 表, const QString& コード) {
     const QString 文 = u"SELECT "_qs + 表 + u".*"_qs + u" FROM "_qs + 表 + u" WHERE "_qs + 表 +
                        u".コード = '"_qs + コード + u"'"_qs;
-    return データ.業務DB検索(結果, 文);
+    return データ.接続().業務DB検索(結果, 文);
 }
 
 bool 部門検索(データ環境& データ, 記録集合& 結果, const QString& コード) {
@@ -64,7 +64,7 @@ QString& 日付部分(出金見出し& h, int 部分) {
 
 // Every line takes the rate in force on the new date, then its tax and amounts follow.
 void 全行再計算(出金セッション& s) {
-    for (int i = 0; i <= s.最終行; ++i) 明細再計算(s.データ, s.行[i], s.見出し.出金日付);
+    for (int i = 0; i <= s.最終行; ++i) 明細再計算(s.データ.接続(), s.行[i], s.見出し.出金日付);
     s.合計再計算();
 }
 
@@ -95,7 +95,7 @@ QString 番号一覧条件(const 画面モデル& 画面, const QString& 表, co
 
 // The programs folder of the HR link's slot in use; none without the link.
 QString 人事連携プログラムフォルダ(出金セッション& s) {
-    const 連携スロット環境* L = s.白樺連携フラグ ? s.データ.連携先() : nullptr;
+    const 連携スロット環境* L = s.白樺連携フラグ ? s.データ.接続().連携先() : nullptr;
     return L ? L->プログラムフォルダ : QString();
 }
 
@@ -186,12 +186,12 @@ void frm紺碧帳::一覧を開く(const QString& 項目名) {
     } else {
         return;
     }
-    s.データ.基盤.画面使用可否(画面.名前, false);
+    s.データ.基盤().画面使用可否(画面.名前, false);
     if (条件あり) 状態.一覧.条件 = 条件;
     状態.一覧.設定先 = 画面.探す(項目名);
     状態.一覧.名称先 = &画面(*名称先);
     状態.選択鍵.reset();
-    s.データ.基盤.画面表示(一覧名, true);
+    s.データ.基盤().画面表示(一覧名, true);
 }
 
 void frm紺碧帳::参照元No起動() {
@@ -199,6 +199,6 @@ void frm紺碧帳::参照元No起動() {
     if (No.isEmpty() || No == ゼロ文字列(No.size())) return;
     const QString フォルダ = 人事連携プログラムフォルダ(s);
     if (フォルダ.isEmpty()) return;
-    s.データ.基盤.プログラム起動(フォルダ + u"/出張申請登録"_qs, {s.見出し.出張申請鍵().文字列()},
+    s.データ.基盤().プログラム起動(フォルダ + u"/出張申請登録"_qs, {s.見出し.出張申請鍵().文字列()},
                                  フォルダ);
 }

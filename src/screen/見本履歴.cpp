@@ -39,7 +39,7 @@ class 事務所の一日 {
   public:
     事務所の一日(const QString& プログラムフォルダ, const QDate& 日) {
         基盤.時刻 = QDateTime(日, QTime(9, 0, 0));
-        s.データ.自身のフォルダ = プログラムフォルダ;
+        s.データ.接続().自身のフォルダ設定(プログラムフォルダ);
         // The question before a store is answered "register only".
         基盤.画面表示時 = [this](const QString& 名) {
             if (名 == u"msg印刷確認")
@@ -59,7 +59,7 @@ class 事務所の一日 {
         const QString 文 =
             u"SELECT コード FROM M担当者 WHERE 在籍区分 = '0' AND 事業所コード = '"_qs +
             s.見出し.事業所コード + u"' ORDER BY コード"_qs;
-        if (s.データ.業務DB検索(rs, 文)) {
+        if (s.データ.接続().業務DB検索(rs, 文)) {
             for (; !rs.EOFか(); rs.MoveNext()) 人.append(rs.文字列(u"コード"_qs));
         }
         rs.閉じる();
@@ -95,7 +95,7 @@ class 事務所の一日 {
     // that program links them.
     void 日程を結ぶ(const QString& No, const QString& 担当者, const QDate& 日) {
         const QString 日付 = 日.toString(u"yyyyMMdd"_qs);
-        s.データ.業務DB実行(
+        s.データ.接続().業務DB実行(
             u"INSERT INTO T営業活動明細 (担当者コード, 日付, 開始時刻, 終了時刻, 件名, 内容, 出金事業所コード, 出金番号基準日付, 出金No) VALUES ('"_qs +
             担当者 + u"', '"_qs + 日付 +
             u"', '1400', '1530', '得意先訪問', '交通費を出金伝票で精算', '"_qs +
@@ -112,7 +112,7 @@ class 事務所の一日 {
         const QString 文 = u"SELECT MAX(出金No) AS 番号 FROM T出金 WHERE 事業所コード = '"_qs +
                            s.見出し.事業所コード + u"' AND 番号基準日付 = '"_qs +
                            s.見出し.番号基準日付 + u"'"_qs;
-        if (s.データ.業務DB検索(rs, 文)) No = rs.文字列(u"番号"_qs);
+        if (s.データ.接続().業務DB検索(rs, 文)) No = rs.文字列(u"番号"_qs);
         rs.閉じる();
         return No;
     }
@@ -146,10 +146,10 @@ class 事務所の一日 {
 bool 事務所を替える(const QString& プログラムフォルダ, const QString& 事業所コード) {
     台本プラットフォーム 基盤;
     出金セッション s(基盤);
-    s.データ.自身のフォルダ = プログラムフォルダ;
-    if (!s.データ.SYB_OPEN()) return false;
-    s.データ.運用事業所変更(事業所コード);
-    s.データ.接続終了();
+    s.データ.接続().自身のフォルダ設定(プログラムフォルダ);
+    if (!s.データ.接続().SYB_OPEN()) return false;
+    s.データ.接続().運用事業所変更(事業所コード);
+    s.データ.接続().接続終了();
     return true;
 }
 

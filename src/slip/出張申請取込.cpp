@@ -8,8 +8,8 @@ namespace {
 // The link's number tables, reached through the link's own statements so that their failures
 // land in this run's history.
 番号環境 連携番号環境(データ環境& e) {
-    return 番号環境([&e](記録集合& rs, const QString& 文) { return e.連携DB検索(rs, 文); },
-                    [&e](const QString& 文) { return e.連携DB実行(文); }, e.基盤, e.会社);
+    return 番号環境([&e](記録集合& rs, const QString& 文) { return e.接続().連携DB検索(rs, 文); },
+                    [&e](const QString& 文) { return e.接続().連携DB実行(文); }, e.基盤(), e.会社設定().会社());
 }
 
 // A pick from the trip list leaves its row's key: "C", office, number base date, number. An
@@ -64,7 +64,7 @@ bool 出金セッション::出張申請適用(const QString& 入力No, std::opt
             連携番号環境(データ), 番号定数::出張申請番号ID.toString(), h.出金日付, 鍵.事業所コード);
     }
     記録集合 rs;
-    if (!データ.連携DB検索(
+    if (!データ.接続().連携DB検索(
             rs, u"SELECT T出張申請.*"_qs + u" FROM T出張申請"_qs + 鍵.条件(鍵の列::T出張申請))) {
         rs.閉じる();
         h.出張申請事業所コード.clear();
@@ -92,7 +92,7 @@ void 出金セッション::旅費明細取込() {
         u" FROM K旅費区分 INNER JOIN T出張旅費 ON K旅費区分.区分 = T出張旅費.旅費区分"_qs +
         h.出張申請鍵().条件(鍵の列::T出張旅費) + u" ORDER BY T出張旅費.旅費行No"_qs;
     記録集合 rs;
-    if (データ.連携DB検索(rs, 文)) {
+    if (データ.接続().連携DB検索(rs, 文)) {
         // No limit of its own: a sixteenth row takes the spare slot, a seventeenth ends the
         // take-over with 添字範囲外.
         for (; !rs.EOFか(); rs.MoveNext()) {
@@ -112,7 +112,7 @@ void 出金セッション::旅費明細取込() {
             } else {
                 l.費目区分 = 0;
             }
-            旅費明細取込時再計算(データ, l, 内外, h.出金日付);
+            旅費明細取込時再計算(データ.接続(), l, 内外, h.出金日付);
         }
     }
     rs.閉じる();

@@ -145,7 +145,7 @@ void 出金セッション::削除結果(bool 成功) {
 
 bool 出金セッション::行あり(const QString& 文) {
     記録集合 rs;
-    const bool あり = データ.業務DB検索(rs, 文);
+    const bool あり = データ.接続().業務DB検索(rs, 文);
     rs.閉じる();
     return あり;
 }
@@ -154,7 +154,7 @@ bool 出金セッション::行あり(const QString& 文) {
 // users storing at once cannot both find the same number unused.
 bool 出金セッション::新規登録処理() {
     const 保存前控え 控え = 控えを取る();
-    業務DB一括 一括(データ, u"新規登録処理"_qs);
+    業務DB一括 一括(データ.接続(), u"新規登録処理"_qs);
     見出し.出金履歴No.clear();
     見出し.旧出金履歴No.clear();
     見出し.処理区分 = u"0"_qs;
@@ -167,7 +167,7 @@ bool 出金セッション::新規登録処理() {
 
 void 出金セッション::修正登録処理() {
     const 保存前控え 控え = 控えを取る();
-    業務DB一括 一括(データ, u"修正登録処理"_qs);
+    業務DB一括 一括(データ.接続(), u"修正登録処理"_qs);
     見出し.出金履歴No.clear();
     見出し.旧出金履歴No.clear();
     見出し.処理区分 = u"1"_qs;
@@ -239,8 +239,8 @@ QString 出金セッション::出金履歴No採番() {
 void 出金セッション::出金情報書込() {
     auto& h = 見出し;
     h.出金履歴No = 出金履歴No採番();
-    h.登録日付 = データ.基盤.現在時刻().toString(u"yyyyMMdd HHmmss"_qs);
-    値表 値 = 新状態の値(h, 記録者ID(データ.環境));
+    h.登録日付 = データ.基盤().現在時刻().toString(u"yyyyMMdd HHmmss"_qs);
+    値表 値 = 新状態の値(h, 記録者ID(データ.接続().環境()));
     値.insert(値表{
         {u"出張申請事業所コード"_qs, 引用(h.出張申請事業所コード)},
         {u"出張申請番号基準日付"_qs, 引用(h.出張申請番号基準日付)},
@@ -263,16 +263,16 @@ void 出金セッション::出金情報書込() {
         {u"登録日付"_qs, 引用(h.登録日付)},
         {u"更新日付"_qs, 引用(h.更新日付)},
     });
-    挿入結果(データ.業務DB実行(挿入文(u"T出金"_qs, T出金列, T出金列, 値), true));
-    挿入結果(データ.業務DB実行(挿入文(u"R出金"_qs, R出金列, R出金新値順, 値)));
+    挿入結果(データ.接続().業務DB実行(挿入文(u"T出金"_qs, T出金列, T出金列, 値), true));
+    挿入結果(データ.接続().業務DB実行(挿入文(u"R出金"_qs, R出金列, R出金新値順, 値)));
 }
 
 void 出金セッション::出金明細情報書込() {
     auto& h = 見出し;
-    const QString 利用者 = 記録者ID(データ.環境);
+    const QString 利用者 = 記録者ID(データ.接続().環境());
     for (int i = 0; i <= 最終行; ++i) {
         出金行& r = 行[i];
-        r.登録日付 = データ.基盤.現在時刻().toString(u"yyyyMMdd HHmmss"_qs);
+        r.登録日付 = データ.基盤().現在時刻().toString(u"yyyyMMdd HHmmss"_qs);
         // A line keeps its identity across corrections; a new one gets the next free number.
         if (数値変換(r.出金固有行No) == 0) {
             ++h.最大固有行No;
@@ -301,8 +301,8 @@ void 出金セッション::出金明細情報書込() {
             {u"登録日付"_qs, 引用(r.登録日付)},
             {u"更新日付"_qs, 引用(r.更新日付)},
         });
-        挿入結果(データ.業務DB実行(挿入文(u"T出金明細"_qs, T出金明細列, T出金明細列, 値)));
-        挿入結果(データ.業務DB実行(挿入文(u"R出金明細"_qs, R出金明細新列, R出金明細列, 値)));
+        挿入結果(データ.接続().業務DB実行(挿入文(u"T出金明細"_qs, T出金明細列, T出金明細列, 値)));
+        挿入結果(データ.接続().業務DB実行(挿入文(u"R出金明細"_qs, R出金明細新列, R出金明細列, 値)));
     }
 }
 
@@ -313,7 +313,7 @@ void 出金セッション::出金履歴書込() {
     h.旧出金履歴No = 出金履歴No採番();
     const QString 条件 = h.保持鍵().条件(鍵の列::T出金);
     記録集合 rs;
-    if (!データ.業務DB検索(rs, u"SELECT * FROM T出金"_qs + 条件)) {
+    if (!データ.接続().業務DB検索(rs, u"SELECT * FROM T出金"_qs + 条件)) {
         rs.閉じる();
         return;
     }
@@ -322,8 +322,8 @@ void 出金セッション::出金履歴書込() {
         記録の値(rs, R出金列, true,
                  {{u"出金履歴No"_qs, 引用(h.旧出金履歴No)}, {u"赤黒区分"_qs, 引用(u"1"_qs)}}));
     rs.閉じる();
-    挿入結果(データ.業務DB実行(文));
-    削除結果(データ.業務DB実行(u"DELETE FROM T出金"_qs + 条件, true));
+    挿入結果(データ.接続().業務DB実行(文));
+    削除結果(データ.接続().業務DB実行(u"DELETE FROM T出金"_qs + 条件, true));
 }
 
 void 出金セッション::出金明細履歴書込() {
@@ -333,13 +333,13 @@ void 出金セッション::出金明細履歴書込() {
     // written, so no cursor stands on a table that is being deleted from.
     QList<std::pair<QString, QString>> 行と履歴;
     記録集合 rs;
-    if (データ.業務DB検索(
+    if (データ.接続().業務DB検索(
             rs, u"SELECT * FROM T出金明細"_qs + 条件 + u" ORDER BY T出金明細.出金行No"_qs)) {
         for (; !rs.EOFか(); rs.MoveNext()) {
             const 値表 値 = 記録の値(rs, R出金明細列, false,
                                      {{u"出金履歴No"_qs, 引用(h.旧出金履歴No)},
                                       {u"赤黒区分"_qs, 引用(u"0"_qs)},
-                                      {u"ユーザID"_qs, 引用(記録者ID(データ.環境))}});
+                                      {u"ユーザID"_qs, 引用(記録者ID(データ.接続().環境()))}});
             行と履歴.append({rs.文字列(u"出金固有行No"_qs),
                              挿入文(u"R出金明細"_qs, R出金明細列, R出金明細列, 値)});
         }
@@ -350,8 +350,8 @@ void 出金セッション::出金明細履歴書込() {
         return;
     }
     for (const auto& [固有行No, 文] : 行と履歴) {
-        挿入結果(データ.業務DB実行(文));
-        削除結果(データ.業務DB実行(u"DELETE FROM T出金明細"_qs +
+        挿入結果(データ.接続().業務DB実行(文));
+        削除結果(データ.接続().業務DB実行(u"DELETE FROM T出金明細"_qs +
                                    明細鍵{h.保持鍵(), 固有行No}.条件(鍵の列::T出金明細表付)));
     }
 }
@@ -368,16 +368,16 @@ void 出金セッション::後処理() {
     状態.出金No = h.出金No;
     状態.出金履歴No = h.出金履歴No;
     auto 未集計 = [&] {
-        if (const auto 結果 = 出金未集計情報書込(データ, 状態)) {
+        if (const auto 結果 = 出金未集計情報書込(データ.接続(), データ.会社設定().会社(), 状態)) {
             処理結果区分 = 結果->処理結果区分;
             処理結果メッセージ = 結果->処理結果メッセージ;
         }
     };
     // A queue row in the general database goes with the batch; one in the configuration
     // database is written only once the batch stands, so that none points at rows undone.
-    const bool 一括の内 = 未集計情報は業務DBへ(データ);
+    const bool 一括の内 = 未集計情報は業務DBへ(データ.会社設定().会社());
     if (一括の内) 未集計();
-    if (!データ.業務DB一括終了()) {
+    if (!データ.接続().業務DB一括終了()) {
         保存未確定 = true;
         if (h.処理区分 == u"2") {
             削除結果(false);
@@ -387,10 +387,10 @@ void 出金セッション::後処理() {
         return;
     }
     if (!一括の内) 未集計();
-    if (データ.会社.更新実行区分 != 0) return;
+    if (データ.会社設定().会社().更新実行区分 != 0) return;
     // The update program reads what this run wrote, through connections opened afresh.
-    データ.接続終了();
-    データ.SYB_OPEN();
-    データ.DB_OPEN();
-    更新プログラム起動(データ, 番号定数::出金番号ID.toString());
+    データ.接続().接続終了();
+    データ.接続().SYB_OPEN();
+    データ.接続().DB_OPEN();
+    更新プログラム起動(データ.接続(), 番号定数::出金番号ID.toString());
 }

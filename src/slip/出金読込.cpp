@@ -43,16 +43,16 @@ bool 出金セッション::出金キー検索(const ::伝票鍵& 鍵) {
     // Recorded before the read, so a look-up of a number that does not exist is recorded too.
     閲覧記録指定 閲覧;
     閲覧.事業所コード = 見出し.事業所コード;
-    閲覧.担当者名 = データ.操作者.氏名;
+    閲覧.担当者名 = データ.操作者権限().操作者().氏名;
     閲覧.プログラム名 = u"紺碧帳"_qs;
     閲覧.伝票事業所コード = 鍵.事業所コード;
     閲覧.伝票番号基準日付 = 鍵.番号基準日付;
     閲覧.伝票No = 鍵.番号;
-    閲覧記録(データ, 閲覧);
+    閲覧記録(データ.接続(), データ.会社設定().会社(), 閲覧);
 
     const QString 文 =
         u"SELECT TOP 1"_qs + 出金見出し列 + 出金見出し結合 + 鍵.条件(鍵の列::T出金読込);
-    return データ.業務DB検索(見出し結果, 文, true);
+    return データ.接続().業務DB検索(見出し結果, 文, true);
 }
 
 void 出金セッション::出金見出し読込() {
@@ -100,7 +100,7 @@ void 出金セッション::出金見出し読込(記録集合& rs) {
     写す(rs, u"更新日付", h.更新日付);
     rs.閉じる();
     入力変更フラグ = false;
-    const 税率情報 税率 = 税率情報取得(データ, h.出金日付);
+    const 税率情報 税率 = 税率情報取得(データ.接続(), h.出金日付);
     h.前回税率 = 税率.前回税率;
     h.今回税率 = 税率.今回税率;
 }
@@ -111,7 +111,7 @@ void 出金セッション::出金明細読込() {
     記録集合 rs;
     const QString 文 = 明細文 + 明細結合 + 見出し.鍵().条件(鍵の列::T出金明細表付) +
                        u" ORDER BY T出金明細.出金行No"_qs;
-    if (データ.業務DB検索(rs, 文)) {
+    if (データ.接続().業務DB検索(rs, 文)) {
         for (; !rs.EOFか(); rs.MoveNext()) {
             // Every stored line comes in, a sixteenth imported one into the spare slot; rows
             // beyond the table are a fault of the data, left unread.
@@ -200,14 +200,14 @@ QString 出金セッション::隣接文(bool 前) const {
 
 bool 出金セッション::前No確認() {
     記録集合 rs;
-    const bool あり = データ.業務DB検索(rs, 隣接文(true));
+    const bool あり = データ.接続().業務DB検索(rs, 隣接文(true));
     rs.閉じる();
     return あり;
 }
 
 bool 出金セッション::次No確認() {
     記録集合 rs;
-    const bool あり = データ.業務DB検索(rs, 隣接文(false));
+    const bool あり = データ.接続().業務DB検索(rs, 隣接文(false));
     rs.閉じる();
     return あり;
 }
@@ -221,7 +221,7 @@ bool 出金セッション::次No読込() {
 
 bool 出金セッション::隣接読込(bool 前) {
     記録集合 rs;
-    const bool あり = データ.業務DB検索(rs, 隣接文(前));
+    const bool あり = データ.接続().業務DB検索(rs, 隣接文(前));
     const QString 基準日付 = rs.文字列(u"番号基準日付"_qs);
     const QString No = rs.文字列(u"出金No"_qs);
     rs.閉じる();
@@ -242,14 +242,14 @@ bool 出金セッション::隣接読込(bool 前) {
 bool 出金セッション::過去明細取込(const QString& 鍵, int 位置) {
     記録集合 rs;
     const QString 文 = 明細文 + 明細結合 + 明細鍵を切り出す(鍵).条件(鍵の列::T出金明細);
-    const bool あり = データ.業務DB検索(rs, 文);
+    const bool あり = データ.接続().業務DB検索(rs, 文);
     if (あり) {
         出金行& r = 行[位置];
         行を写す(rs, r);
         写す(rs, u"摘要", r.摘要);
         写す(rs, u"支払先", r.支払先);
         写す(rs, u"課税事業所区分", r.課税事業所区分);
-        過去明細取込時再計算(データ, r, 見出し.出金日付);
+        過去明細取込時再計算(データ.接続(), r, 見出し.出金日付);
         合計再計算();
     }
     rs.閉じる();

@@ -13,8 +13,8 @@ QString 連携条件(const 出金見出し& h) {
 
 bool 出金セッション::日程連携確認() {
     記録集合 rs;
-    const bool あり =
-        データ.業務DB検索(rs, u"SELECT TOP 1"_qs + u" * FROM T営業活動明細"_qs + 連携条件(見出し));
+    const bool あり = データ.接続().業務DB検索(
+        rs, u"SELECT TOP 1"_qs + u" * FROM T営業活動明細"_qs + 連携条件(見出し));
     rs.閉じる();
     return !あり;
 }
@@ -33,8 +33,8 @@ void 出金セッション::日程連携解除() {
 void 出金セッション::日程連携更新(const QString& 設定) {
     QStringList 更新文;
     記録集合 rs;
-    if (データ.業務DB検索(rs, u"SELECT "_qs + u" * FROM T営業活動明細"_qs + 連携条件(見出し) +
-                                  u" ORDER BY 日付,開始時刻"_qs)) {
+    if (データ.接続().業務DB検索(rs, u"SELECT "_qs + u" * FROM T営業活動明細"_qs +
+                                         連携条件(見出し) + u" ORDER BY 日付,開始時刻"_qs)) {
         for (; !rs.EOFか(); rs.MoveNext()) {
             更新文.append(u"UPDATE T営業活動明細 SET"_qs + 設定 + u" WHERE [担当者コード] = '"_qs +
                           rs.文字列(u"担当者コード"_qs) + u"'"_qs + u" AND [日付] = '"_qs +
@@ -45,7 +45,7 @@ void 出金セッション::日程連携更新(const QString& 設定) {
     }
     rs.閉じる();
     for (const QString& 文 : 更新文) {
-        const bool 成功 = データ.業務DB実行(文);
+        const bool 成功 = データ.接続().業務DB実行(文);
         処理結果区分 = 成功 ? 5 : 4;
         処理結果メッセージ = 成功 ? QString() : 修正失敗文言;
     }

@@ -15,7 +15,7 @@ QString 引数(const QString& フォルダ) {
 // closed to him: the folder, and the administrator's command that makes it or opens it. A
 // closed tree is not made again, as that would empty the company's databases.
 QString ツリー案内(const データ環境& d) {
-    const ツリー診断結果 診断 = d.ツリー診断();
+    const ツリー診断結果 診断 = d.接続().ツリー診断();
     const QString 所 = 引数(診断.フォルダ);
     switch (診断.状態) {
         case ツリー状態::無い:
@@ -25,7 +25,7 @@ QString ツリー案内(const データ環境& d) {
         case ツリー状態::読めない:
             return u"紺碧帳のフォルダツリーを読み書きできません: "_qs + 診断.フォルダ +
                    u"\n管理者が利用者をツリーのグループ (konpeki) に加えます。\nsudo adduser "_qs +
-                   d.環境.端末利用者名 + u" konpeki"_qs;
+                   d.接続().環境().端末利用者名 + u" konpeki"_qs;
         case ツリー状態::使える:
             break;
     }
@@ -37,8 +37,8 @@ QString ツリー案内(const データ環境& d) {
 紺碧帳起動::紺碧帳起動(出金セッション& セッション, 入力画面& 画面_) : s(セッション), 画面(画面_) {}
 
 起動結果 紺碧帳起動::プログラム開始(const QString& コマンドライン) {
-    プラットフォーム& 基盤 = s.データ.基盤;
-    s.データ.コマンドライン = コマンドライン.trimmed();
+    プラットフォーム& 基盤 = s.データ.基盤();
+    s.データ.接続().コマンドライン設定(コマンドライン.trimmed());
 
     if (!データベース開始()) {
         基盤.メッセージ(u"データベースが使用できません。"_qs);
@@ -59,7 +59,7 @@ QString ツリー案内(const データ環境& d) {
         return 起動結果::停止;
     }
     連携条件項目登録(u"翠嶺"_qs, u"紺碧帳"_qs);
-    if (!操作権限OK(s.データ.操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 0))) {
+    if (!操作権限OK(s.データ.操作者権限().操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 0))) {
         基盤.メッセージ(u"操作権限がありません。"_qs);
         終了処理();
         return 起動結果::停止;
@@ -101,20 +101,21 @@ QString ツリー案内(const データ環境& d) {
 
 bool 紺碧帳起動::データベース開始() {
     データ環境& d = s.データ;
-    if (!d.SYB_OPEN()) return false;
+    if (!d.接続().SYB_OPEN()) return false;
     d.開始履歴書込();
-    d.他プログラム連携受信(d.コマンドライン.trimmed(),
-                           d.基盤.現在時刻().addSecs(-60).toString(u"yyyyMMdd HHmmss"_qs));
+    d.プログラム連携().他プログラム連携受信(
+        d.接続().コマンドライン().trimmed(),
+        d.基盤().現在時刻().addSecs(-60).toString(u"yyyyMMdd HHmmss"_qs));
     // Only the suite's menu program keeps the configuration database's tables short.
-    if (d.プログラムID == u"翠嶺") d.環境情報整理();
-    return d.DB_OPEN();
+    if (d.接続().プログラムID() == u"翠嶺") d.接続().環境情報整理();
+    return d.接続().DB_OPEN();
 }
 
 bool 紺碧帳起動::ユーザ情報初期化() {
-    const bool 結果 = s.データ.基本項目読込();
+    const bool 結果 = s.データ.会社設定().基本項目読込();
     // The slip is entered for the workplace's office, so that its number comes from that
     // office's counters; a command line may still name another.
-    s.見出し.事業所コード = s.データ.作業事業所コード;
+    s.見出し.事業所コード = s.データ.接続().作業事業所コード();
     s.最終行 = -1;
     s.新規情報フラグ = true;
     今日の出金日付();
@@ -125,7 +126,7 @@ bool 紺碧帳起動::ユーザ情報初期化() {
 
 void 紺碧帳起動::今日の出金日付() {
     auto& h = s.見出し;
-    const QDate 今日 = s.データ.基盤.現在時刻().date();
+    const QDate 今日 = s.データ.基盤().現在時刻().date();
     h.出金日付年 = QString::number(今日.year()).rightJustified(4, u'0');
     h.出金日付月 = QString::number(今日.month()).rightJustified(2, u'0');
     h.出金日付日 = QString::number(今日.day()).rightJustified(2, u'0');
@@ -178,7 +179,7 @@ void 紺碧帳起動::起動条件読込() {
     const QString 文 = u"SELECT"_qs + 出金見出し列 + 出金見出し結合 + u" WHERE 出金日付 = '"_qs +
                        h.出金日付 + u"'"_qs + u" AND 担当者コード = '"_qs + h.担当者コード +
                        u"'"_qs + u" ORDER BY 出金No"_qs;
-    if (s.データ.業務DB検索(rs, 文)) {
+    if (s.データ.接続().業務DB検索(rs, 文)) {
         s.出金見出し読込(rs);
         s.出金明細読込();
         s.入力変更フラグ = false;
@@ -187,15 +188,16 @@ void 紺碧帳起動::起動条件読込() {
 }
 
 void 紺碧帳起動::連携条件項目登録(const QString& メニュー名, const QString& プログラム名) {
-    s.データ.条件項目名保存(メニュー名, プログラム名,
-                            {u"事業所コード"_qs, u"番号基準日付"_qs, u"出金No"_qs});
+    s.データ.接続().条件項目名保存(メニュー名, プログラム名,
+                                   {u"事業所コード"_qs, u"番号基準日付"_qs, u"出金No"_qs});
 }
 
 void 紺碧帳起動::終了処理() {
     データ環境& d = s.データ;
-    if (!d.受信起動連携情報.isEmpty()) d.他プログラム連携発信(d.終了時連携情報);
-    d.終了履歴書込();
-    d.接続終了();
+    if (!d.プログラム連携().受信起動連携情報().isEmpty())
+        d.プログラム連携().他プログラム連携発信(d.プログラム連携().終了時連携情報());
+    d.接続().終了履歴書込();
+    d.接続().接続終了();
 }
 
 void 紺碧帳起動::停止処理() {

@@ -25,9 +25,9 @@ class エンジン別試験基 : public ::testing::TestWithParam<bool> {
 
     // Opens both databases of the tree as the program does at its start.
     void 開く() {
-        環境.自身のフォルダ = 木->プログラムフォルダ();
-        ASSERT_TRUE(環境.SYB_OPEN());
-        ASSERT_TRUE(環境.DB_OPEN());
+        環境.接続().自身のフォルダ設定(木->プログラムフォルダ());
+        ASSERT_TRUE(環境.接続().SYB_OPEN());
+        ASSERT_TRUE(環境.接続().DB_OPEN());
     }
 
     QList<QVariantList> 履歴() { return 木->稼動履歴(); }

@@ -79,7 +79,7 @@ bool 読込時の合計(const frm紺碧帳& f) {
     const auto& h = s.見出し;
     記録集合 rs;
     bool 同じ = false;
-    if (s.データ.業務DB検索(
+    if (s.データ.接続().業務DB検索(
             rs,
             u"SELECT 出金金額合計, 出金消費税合計, 実質出金金額合計 FROM T出金 WHERE 事業所コード = '"_qs +
                 h.事業所コード + u"' AND 番号基準日付 = '"_qs + h.番号基準日付 +

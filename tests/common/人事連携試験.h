@@ -34,10 +34,10 @@ class 人事連携試験 : public ::testing::TestWithParam<bool> {
         ASSERT_TRUE(環境.人事連携開始());
     }
     void 自社を開いて連携を選ぶ() {
-        環境.自身のフォルダ = 木->プログラムフォルダ();
-        ASSERT_TRUE(環境.SYB_OPEN());
-        ASSERT_TRUE(環境.DB_OPEN());
-        ASSERT_TRUE(環境.基本項目読込());
+        環境.接続().自身のフォルダ設定(木->プログラムフォルダ());
+        ASSERT_TRUE(環境.接続().SYB_OPEN());
+        ASSERT_TRUE(環境.接続().DB_OPEN());
+        ASSERT_TRUE(環境.会社設定().基本項目読込());
         ASSERT_TRUE(環境.人事連携選択(u"白樺"_qs));
     }
 

@@ -13,7 +13,7 @@ class 伝票打鍵者 {
   public:
     explicit 伝票打鍵者(const QString& プログラムフォルダ) {
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
-        s.データ.自身のフォルダ = プログラムフォルダ;
+        s.データ.接続().自身のフォルダ設定(プログラムフォルダ);
         基盤.画面表示時 = [this](const QString& 名) {
             if (名 == u"msg印刷確認")
                 f.印刷確認.画面.操作_クリック(f.印刷確認.画面(u"btn_登録"_qs));

@@ -348,7 +348,7 @@ class 利用者別の帳票 : public ::testing::Test {
             ASSERT_TRUE(f.open(QIODevice::WriteOnly));
             f.write("layouts linked to the shared data");
         }
-        環境.自身のフォルダ = 木.プログラムフォルダ();
+        環境.接続().自身のフォルダ設定(木.プログラムフォルダ());
     }
     QString 利用者の帳票() const {
         return 木.根() + u"/users/"_qs + 端末利用者名取得() + u"/report"_qs;
@@ -364,8 +364,8 @@ class 利用者別の帳票 : public ::testing::Test {
 };
 
 TEST_F(利用者別の帳票, Accessの無いこの版では写しは写したままで何も言わない) {
-    EXPECT_FALSE(環境.Access環境設定());
-    ASSERT_TRUE(環境.SYB_OPEN());
+    EXPECT_FALSE(環境.接続().Access環境設定());
+    ASSERT_TRUE(環境.接続().SYB_OPEN());
     EXPECT_EQ(中身(利用者の帳票() + u"/repfrmdb.db"_qs), 中身(木.根() + u"/report/repfrmdb.db"_qs));
     EXPECT_TRUE(基盤.表示済み.isEmpty());
 }
@@ -374,18 +374,18 @@ TEST_F(利用者別の帳票, Accessがあれば初回に利用者の帳票フ�
     記憶レジストリ 登録簿;
     登録簿.文字列設定(本体キー, u"Path"_qs, Office16);
     登録簿.キー作成(拡張子キー);
-    環境.端末レジストリ = &登録簿;
-    ASSERT_TRUE(環境.SYB_OPEN());
+    環境.接続().端末レジストリ設定(&登録簿);
+    ASSERT_TRUE(環境.接続().SYB_OPEN());
     EXPECT_EQ(登録簿.値取得(場所(u"16.0"_qs) + u"\\Location0"_qs, u"Path"_qs)->文字列,
               利用者の帳票() + u"/"_qs);
     EXPECT_EQ(中身(利用者の帳票() + u"/repfrmdb.db"_qs), 中身(木.根() + u"/report/repfrmdb.db"_qs));
-    環境.接続終了();
+    環境.接続().接続終了();
 
     const int 書込 = 登録簿.書込回数;
     データ環境 二度目{基盤};
-    二度目.端末レジストリ = &登録簿;
-    二度目.自身のフォルダ = 木.プログラムフォルダ();
-    ASSERT_TRUE(二度目.SYB_OPEN());
+    二度目.接続().端末レジストリ設定(&登録簿);
+    二度目.接続().自身のフォルダ設定(木.プログラムフォルダ());
+    ASSERT_TRUE(二度目.接続().SYB_OPEN());
     EXPECT_EQ(登録簿.書込回数, 書込);
     EXPECT_TRUE(基盤.表示済み.isEmpty());
 }

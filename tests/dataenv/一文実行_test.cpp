@@ -25,8 +25,8 @@ class 一文実行 : public エンジン別試験 {
     void 断られる(const QString& 文) {
         SCOPED_TRACE(文.toStdString());
         const auto 前 = 履歴().size();
-        EXPECT_FALSE(環境.業務DB実行(文));
-        const 接続エラー& e = 環境.業務DB().最終エラー();
+        EXPECT_FALSE(環境.接続().業務DB実行(文));
+        const 接続エラー& e = 環境.接続().業務DB().最終エラー();
         EXPECT_EQ(e.番号, GetParam() ? u"42601"_qs : u"1"_qs);
         EXPECT_TRUE(e.説明.contains(u"syntax error"_qs)) << e.説明.toStdString();
         EXPECT_EQ(試験表(), QStringList{u"残る"_qs});
@@ -40,9 +40,9 @@ class 一文実行 : public エンジン別試験 {
 TEST_P(一文実行, 文の後に続く二つ目の文は構文の誤りとして断られ記録される) {
     開く();
     断られる(u"INSERT INTO 試験表 (値) VALUES ('x'); DELETE FROM 試験表; --')"_qs);
-    EXPECT_TRUE(環境.業務DB().最終エラー().説明.contains(u"\"DELETE\""_qs));
+    EXPECT_TRUE(環境.接続().業務DB().最終エラー().説明.contains(u"\"DELETE\""_qs));
     記録集合 rs;
-    EXPECT_FALSE(環境.業務DB検索(rs, u"SELECT 値 FROM 試験表; DELETE FROM 試験表"_qs));
+    EXPECT_FALSE(環境.接続().業務DB検索(rs, u"SELECT 値 FROM 試験表; DELETE FROM 試験表"_qs));
     EXPECT_TRUE(rs.EOFか());
     rs.閉じる();
     EXPECT_EQ(試験表(), QStringList{u"残る"_qs});
@@ -51,9 +51,10 @@ TEST_P(一文実行, 文の後に続く二つ目の文は構文の誤りとし�
 // A closing semicolon with only blanks and comments behind it is still one statement.
 TEST_P(一文実行, 終わりのセミコロンの後が空白と注釈だけなら実行される) {
     開く();
-    EXPECT_TRUE(環境.業務DB実行(u"INSERT INTO 試験表 (値) VALUES ('足す'); -- 終わり\n"_qs));
+    EXPECT_TRUE(環境.接続().業務DB実行(u"INSERT INTO 試験表 (値) VALUES ('足す'); -- 終わり\n"_qs));
     記録集合 rs;
-    EXPECT_TRUE(環境.業務DB検索(rs, u"SELECT 値 FROM 試験表 WHERE 値 = '足す';  /* 注 */"_qs));
+    EXPECT_TRUE(
+        環境.接続().業務DB検索(rs, u"SELECT 値 FROM 試験表 WHERE 値 = '足す';  /* 注 */"_qs));
     EXPECT_EQ(rs.文字列(u"値"_qs), u"足す"_qs);
     rs.閉じる();
     EXPECT_EQ(試験表(), (QStringList{u"残る"_qs, u"足す"_qs}));
@@ -68,7 +69,7 @@ TEST_P(一文実行, 引用符と注釈の読み方が機関で違う形でも�
           u"INSERT INTO 試験表 (値) VALUES ($$'$$); DELETE FROM 試験表; --')"_qs,
           u"INSERT INTO 試験表 (値) VALUES ('x') /* /* */ ' */; DELETE FROM 試験表; -- '"_qs}) {
         SCOPED_TRACE(文.toStdString());
-        EXPECT_FALSE(環境.業務DB実行(文));
+        EXPECT_FALSE(環境.接続().業務DB実行(文));
         EXPECT_EQ(試験表(), QStringList{u"残る"_qs});
     }
 }
@@ -82,9 +83,9 @@ TEST_P(一文実行, 逆斜線を逃がしとする設定のデータベース�
                                    u" SET standard_conforming_strings = off"_qs));
     }
     開く();
-    EXPECT_TRUE(
-        環境.業務DB実行(u"INSERT INTO 試験表 (値) VALUES ('\\''); DELETE FROM 試験表; --')"_qs));
-    EXPECT_TRUE(環境.業務DB実行(u"INSERT INTO 試験表 (値) VALUES ('C:\\')"_qs));
+    EXPECT_TRUE(環境.接続().業務DB実行(
+        u"INSERT INTO 試験表 (値) VALUES ('\\''); DELETE FROM 試験表; --')"_qs));
+    EXPECT_TRUE(環境.接続().業務DB実行(u"INSERT INTO 試験表 (値) VALUES ('C:\\')"_qs));
     EXPECT_EQ(試験表(), (QStringList{u"C:\\"_qs, u"\\'); DELETE FROM 試験表; --"_qs, u"残る"_qs}));
 }
 

@@ -17,8 +17,8 @@ class 付属書類 : public エンジン別試験 {
         エンジン別試験::SetUp();
         if (HasFatalFailure() || IsSkipped()) return;
         ASSERT_NO_FATAL_FAILURE(開く());
-        ASSERT_TRUE(環境.基本項目読込());
-        ASSERT_EQ(環境.会社.ドキュメントフォルダ, 木->根() + u"/documents"_qs);
+        ASSERT_TRUE(環境.会社設定().基本項目読込());
+        ASSERT_EQ(環境.会社設定().会社().ドキュメントフォルダ, 木->根() + u"/documents"_qs);
         元 = 木->根() + u"/手元"_qs;
         ASSERT_TRUE(QDir().mkpath(元));
     }
@@ -26,7 +26,7 @@ class 付属書類 : public エンジン別試験 {
         if (固めた) QProcess::execute(u"chattr"_qs, {u"-i"_qs, 文書()});
     }
 
-    QString 文書() const { return 環境.会社.ドキュメントフォルダ; }
+    QString 文書() const { return 環境.会社設定().会社().ドキュメントフォルダ; }
     QString 置く(const QString& 名前, const QByteArray& 中身 = "書類") {
         const QString パス = 元 + u"/"_qs + 名前;
         QDir().mkpath(QFileInfo(パス).absolutePath());
@@ -79,7 +79,8 @@ TEST_P(付属書類, 追加は挿入順の列で行を書き保存名を付け�
     ASSERT_EQ(行.size(), 1);
     QStringList 値;
     for (const auto& x : 行[0]) 値 << x.toString();
-    const QString 利用者 = 環境.環境.ユーザID + 環境.環境.起動担当者コード + 環境.環境.端末名;
+    const QString 利用者 = 環境.接続().環境().ユーザID + 環境.接続().環境().起動担当者コード +
+                           環境.接続().環境().端末名;
     EXPECT_EQ(値, (QStringList{u"紺碧帳"_qs,
                                甲,
                                u"001"_qs,

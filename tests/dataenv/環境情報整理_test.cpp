@@ -36,10 +36,10 @@ class 環境情報整理 : public ::testing::Test {
     void SetUp() override {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         基盤.時刻 = QDateTime(QDate(2026, 11, 22), QTime(10, 0, 0));
-        環境.自身のフォルダ = 木.プログラムフォルダ();
-        ASSERT_TRUE(環境.SYB_OPEN());
+        環境.接続().自身のフォルダ設定(木.プログラムフォルダ());
+        ASSERT_TRUE(環境.接続().SYB_OPEN());
         for (const auto& t : 四つの表) {
-            ASSERT_TRUE(環境.環境DB実行(u"DELETE FROM "_qs + QString::fromUtf16(t.表)));
+            ASSERT_TRUE(環境.接続().環境DB実行(u"DELETE FROM "_qs + QString::fromUtf16(t.表)));
         }
     }
     // A row of the table stamped with that time; its second column tells it apart.
@@ -48,8 +48,8 @@ class 環境情報整理 : public ::testing::Test {
         QString 列 = u"実行日付, プログラムID"_qs;
         if (名 == u"プログラム連携情報") 列 = u"発信日時, 発信プログラムID"_qs;
         if (名.startsWith(u"プログラムクリップボード")) 列 = u"貼付日時, 貼付プログラムID"_qs;
-        ASSERT_TRUE(環境.環境DB実行(u"INSERT INTO "_qs + 名 + u" ("_qs + 列 + u") VALUES ('"_qs +
-                                    日時 + u"', '"_qs + 印 + u"')"_qs));
+        ASSERT_TRUE(環境.接続().環境DB実行(u"INSERT INTO "_qs + 名 + u" ("_qs + 列 +
+                                           u") VALUES ('"_qs + 日時 + u"', '"_qs + 印 + u"')"_qs));
     }
     QStringList 残り(const char16_t* 表) {
         const QString 名 = QString::fromUtf16(表);
@@ -89,7 +89,7 @@ class 環境情報整理 : public ::testing::Test {
 
 TEST_F(環境情報整理, 期限ちょうどの行は消え一秒若い行は残る) {
     三つずつ置く();
-    環境.環境情報整理();
+    環境.接続().環境情報整理();
     for (const auto& t : 四つの表) {
         EXPECT_EQ(残り(t.表), QStringList{u"c若い"_qs}) << QString::fromUtf16(t.表).toStdString();
     }
@@ -102,7 +102,7 @@ TEST_F(環境情報整理, 八月三十一日の六か月前は二月の末日) 
     行(u"プログラム稼動履歴", u"20260228 120000"_qs, u"a二月末"_qs);
     行(u"プログラム稼動履歴", u"20260228 120001"_qs, u"b二月末の後"_qs);
     行(u"プログラム稼動履歴", u"20260301 000000"_qs, u"c三月"_qs);
-    環境.環境情報整理();
+    環境.接続().環境情報整理();
     EXPECT_EQ(残り(u"プログラム稼動履歴"), (QStringList{u"b二月末の後"_qs, u"c三月"_qs}));
 }
 
@@ -110,7 +110,7 @@ TEST_F(環境情報整理, 閏年の八月三十一日の六か月前は二月�
     基盤.時刻 = QDateTime(QDate(2028, 8, 31), QTime(12, 0, 0));
     行(u"プログラム稼動履歴", u"20280229 120000"_qs, u"a二月末"_qs);
     行(u"プログラム稼動履歴", u"20280229 120001"_qs, u"b二月末の後"_qs);
-    環境.環境情報整理();
+    環境.接続().環境情報整理();
     EXPECT_EQ(残り(u"プログラム稼動履歴"), QStringList{u"b二月末の後"_qs});
 }
 
@@ -118,7 +118,7 @@ TEST_F(環境情報整理, 三日は暦の日で月をまたぐ) {
     基盤.時刻 = QDateTime(QDate(2026, 3, 2), QTime(8, 30, 0));
     行(u"プログラム連携情報", u"20260227 083000"_qs, u"a限度"_qs);
     行(u"プログラム連携情報", u"20260227 083001"_qs, u"b若い"_qs);
-    環境.環境情報整理();
+    環境.接続().環境情報整理();
     EXPECT_EQ(残り(u"プログラム連携情報"), QStringList{u"b若い"_qs});
 }
 
@@ -126,7 +126,7 @@ TEST_F(環境情報整理, 二つのクリップボード表はそれぞれの�
     行(u"プログラムクリップボード", u"20261120 000000"_qs, u"見出し若い"_qs);
     行(u"プログラムクリップボード明細", u"20261101 000000"_qs, u"明細古い"_qs);
     行(u"プログラムクリップボード明細", u"20261121 000000"_qs, u"明細若い"_qs);
-    環境.環境情報整理();
+    環境.接続().環境情報整理();
     EXPECT_EQ(残り(u"プログラムクリップボード"), QStringList{u"見出し若い"_qs});
     EXPECT_EQ(残り(u"プログラムクリップボード明細"), QStringList{u"明細若い"_qs});
 }
@@ -138,22 +138,22 @@ TEST_F(環境情報整理, 削除の期限は問い合わせの後に取り直�
     進む時計 時計;
     時計.時刻 = QDateTime(QDate(2026, 11, 22), QTime(10, 0, 0));
     データ環境 e{時計, u"翠嶺"_qs};
-    e.自身のフォルダ = 木.プログラムフォルダ();
-    ASSERT_TRUE(e.SYB_OPEN());
+    e.接続().自身のフォルダ設定(木.プログラムフォルダ());
+    ASSERT_TRUE(e.接続().SYB_OPEN());
     // Readings: the three other tables' queries at +0, +10 and +20 s, this one's query at
     // +30 s, its delete at +40 s.
     時計.読んだ回数 = 0;
     行(u"プログラムクリップボード明細", u"20261119 100030"_qs, u"a問い合わせの期限"_qs);
     行(u"プログラムクリップボード明細", u"20261119 100035"_qs, u"b削除の期限"_qs);
     行(u"プログラムクリップボード明細", u"20261119 100041"_qs, u"c若い"_qs);
-    e.環境情報整理();
+    e.接続().環境情報整理();
     EXPECT_EQ(時計.読んだ回数, 5);
     EXPECT_EQ(残り(u"プログラムクリップボード明細"), QStringList{u"c若い"_qs});
 
     時計.読んだ回数 = 0;
     ASSERT_TRUE(木.環境DB実行(u"DELETE FROM プログラムクリップボード明細"_qs));
     行(u"プログラムクリップボード明細", u"20261119 100035"_qs, u"b削除の期限"_qs);
-    e.環境情報整理();
+    e.接続().環境情報整理();
     EXPECT_EQ(時計.読んだ回数, 4);  // four queries and no delete
     EXPECT_EQ(残り(u"プログラムクリップボード明細"), QStringList{u"b削除の期限"_qs});
 }
@@ -161,7 +161,7 @@ TEST_F(環境情報整理, 削除の期限は問い合わせの後に取り直�
 TEST_F(環境情報整理, 問い合わせに失敗した表は消さずに記録し他の表は続ける) {
     三つずつ置く();
     ASSERT_TRUE(木.環境DB実行(u"ALTER TABLE プログラム連携情報 RENAME TO 旧連携"_qs));
-    環境.環境情報整理();
+    環境.接続().環境情報整理();
     const QStringList エラー = エラー行();
     ASSERT_EQ(エラー.size(), 1);
     EXPECT_TRUE(エラー[0].contains(
@@ -176,7 +176,7 @@ TEST_F(環境情報整理, 削除に失敗すれば稼動履歴にだけ残り�
     三つずつ置く();
     ASSERT_TRUE(木.環境DB実行(
         u"CREATE TRIGGER 消させない BEFORE DELETE ON プログラムクリップボード BEGIN SELECT RAISE(ABORT, '削除禁止'); END"_qs));
-    環境.環境情報整理();
+    環境.接続().環境情報整理();
     const QStringList エラー = エラー行();
     ASSERT_EQ(エラー.size(), 1);
     EXPECT_TRUE(エラー[0].startsWith(u"エラー 削除禁止"_qs)) << エラー[0].toStdString();
@@ -192,7 +192,7 @@ TEST_F(環境情報整理, 削除に失敗すれば稼動履歴にだけ残り�
 // history row that would tell of them. Nothing is said, nothing is lost.
 TEST_F(環境情報整理, 読込専用の環境DBでは黙って何も消さない) {
     三つずつ置く();
-    環境.環境DB().閉じる();
+    環境.接続().環境DB().閉じる();
     const QString 環境DB = 木.環境DB();
     ASSERT_TRUE(QFile::setPermissions(環境DB, QFile::ReadOwner | QFile::ReadGroup));
     // Root writes through permissions; the immutable flag stops it too.
@@ -204,8 +204,8 @@ TEST_F(環境情報整理, 読込専用の環境DBでは黙って何も消さな
         if (不変) QProcess::execute(u"chattr"_qs, {u"-i"_qs, 環境DB});
         QFile::setPermissions(環境DB, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup);
     }};
-    ASSERT_TRUE(環境.DB_CLOSEOPEN());
-    環境.環境情報整理();
+    ASSERT_TRUE(環境.接続().DB_CLOSEOPEN());
+    環境.接続().環境情報整理();
     EXPECT_TRUE(基盤.表示済み.isEmpty());
     for (const auto& t : 四つの表) EXPECT_EQ(残り(t.表).size(), 3);
 }
@@ -223,8 +223,8 @@ TEST_F(環境情報整理, 他のプロセスが環境DBを握っていれば黙
     ASSERT_TRUE(他方.waitForReadyRead(10000));
     ASSERT_TRUE(他方.readAllStandardOutput().contains("locked"));
     // The run gives up at once instead of waiting out its busy timeout.
-    ASSERT_TRUE(環境.環境DB実行(u"PRAGMA busy_timeout = 0"_qs));
-    環境.環境情報整理();
+    ASSERT_TRUE(環境.接続().環境DB実行(u"PRAGMA busy_timeout = 0"_qs));
+    環境.接続().環境情報整理();
     EXPECT_TRUE(基盤.表示済み.isEmpty());
     他方.write("ROLLBACK;\n.quit\n");
     他方.closeWriteChannel();
@@ -232,7 +232,7 @@ TEST_F(環境情報整理, 他のプロセスが環境DBを握っていれば黙
     for (const auto& t : 四つの表) EXPECT_EQ(残り(t.表).size(), 3);
     EXPECT_TRUE(エラー行().isEmpty());
 
-    環境.環境情報整理();
+    環境.接続().環境情報整理();
     for (const auto& t : 四つの表) EXPECT_EQ(残り(t.表), QStringList{u"c若い"_qs});
 }
 

@@ -12,8 +12,8 @@ class 稼動履歴 : public ::testing::Test {
     void SetUp() override {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         基盤.時刻 = QDateTime(QDate(2026, 11, 22), QTime(8, 5, 9));
-        環境.自身のフォルダ = 木.プログラムフォルダ();
-        ASSERT_TRUE(環境.SYB_OPEN());
+        環境.接続().自身のフォルダ設定(木.プログラムフォルダ());
+        ASSERT_TRUE(環境.接続().SYB_OPEN());
     }
     QList<QVariantList> 行() {
         return 木.環境DB行(
@@ -26,7 +26,7 @@ class 稼動履歴 : public ::testing::Test {
 
 TEST_F(稼動履歴, 最初の行は十二桁のカウンタ1で全ての列が埋まる) {
     ASSERT_TRUE(木.環境DB実行(u"UPDATE 動作環境定義 SET 起動担当者コード = '00003'"_qs));
-    環境.コマンドライン = u"00120240401"_qs;
+    環境.接続().コマンドライン設定(u"00120240401"_qs);
     環境.開始履歴書込();
     const auto r = 行();
     ASSERT_EQ(r.size(), 1);
@@ -41,7 +41,7 @@ TEST_F(稼動履歴, 最初の行は十二桁のカウンタ1で全ての列が�
 
 TEST_F(稼動履歴, 開始と終了でカウンタが続く) {
     環境.開始履歴書込();
-    環境.終了履歴書込();
+    環境.接続().終了履歴書込();
     const auto r = 行();
     ASSERT_EQ(r.size(), 2);
     EXPECT_EQ(r[0][3].toString(), u"開始 "_qs);  // an empty command line after the kind
@@ -50,36 +50,36 @@ TEST_F(稼動履歴, 開始と終了でカウンタが続く) {
 }
 
 TEST_F(稼動履歴, コマンドラインの引用符は一つのまま届く) {
-    環境.コマンドライン = u"  a'b  "_qs;
+    環境.接続().コマンドライン設定(u"  a'b  "_qs);
     環境.開始履歴書込();
     EXPECT_EQ(行()[0][3].toString(), u"開始 a'b"_qs);
 }
 
 TEST_F(稼動履歴, 記録した文の引用符は二つになって届く) {
-    環境.出力履歴書込(u"UPDATE t SET a = 'x'"_qs);
+    環境.接続().出力履歴書込(u"UPDATE t SET a = 'x'"_qs);
     EXPECT_EQ(行()[0][3].toString(), u"出力終了 UPDATE t SET a = ''x''"_qs);
 }
 
 TEST_F(稼動履歴, 紺碧帳では未集計情報の文も記録する) {
-    環境.出力履歴書込(u"INSERT INTO 未集計情報 VALUES (1)"_qs);
+    環境.接続().出力履歴書込(u"INSERT INTO 未集計情報 VALUES (1)"_qs);
     EXPECT_EQ(行().size(), 1);
 }
 
 TEST_F(稼動履歴, 更新モニタは未集計情報の文を記録しないが他の文は記録する) {
     データ環境 監視(基盤, u"更新モニタ"_qs);
-    監視.自身のフォルダ = 木.プログラムフォルダ();
-    ASSERT_TRUE(監視.SYB_OPEN());
-    監視.出力履歴書込(u"SELECT * FROM 未集計情報"_qs);
+    監視.接続().自身のフォルダ設定(木.プログラムフォルダ());
+    ASSERT_TRUE(監視.接続().SYB_OPEN());
+    監視.接続().出力履歴書込(u"SELECT * FROM 未集計情報"_qs);
     EXPECT_TRUE(行().isEmpty());
-    監視.出力履歴書込(u"SELECT * FROM T出金"_qs);
+    監視.接続().出力履歴書込(u"SELECT * FROM T出金"_qs);
     ASSERT_EQ(行().size(), 1);
     EXPECT_EQ(行()[0][1].toString(), u"更新モニタ"_qs);
 }
 
 TEST_F(稼動履歴, 環境DBが閉じていれば失敗した文は箱も行も残さない) {
-    ASSERT_TRUE(環境.DB_OPEN());
-    環境.環境DB().閉じる();
-    EXPECT_FALSE(環境.業務DB実行(u"UPDATE 無い表 SET a = 1"_qs));
+    ASSERT_TRUE(環境.接続().DB_OPEN());
+    環境.接続().環境DB().閉じる();
+    EXPECT_FALSE(環境.接続().業務DB実行(u"UPDATE 無い表 SET a = 1"_qs));
     EXPECT_TRUE(基盤.表示済み.isEmpty());
     EXPECT_TRUE(行().isEmpty());
 }
@@ -87,9 +87,9 @@ TEST_F(稼動履歴, 環境DBが閉じていれば失敗した文は箱も行も
 TEST_F(稼動履歴, 書けない行は飲み込まれ仕事は続く) {
     ASSERT_TRUE(木.環境DB実行(u"DROP TABLE プログラム稼動履歴"_qs));
     環境.開始履歴書込();
-    環境.エラー履歴書込(u"x"_qs);
+    環境.接続().エラー履歴書込(u"x"_qs);
     EXPECT_TRUE(基盤.表示済み.isEmpty());
-    EXPECT_EQ(環境.稼動カウンタ, 2);
+    EXPECT_EQ(環境.接続().稼動カウンタ(), 2);
 }
 
 }  // namespace

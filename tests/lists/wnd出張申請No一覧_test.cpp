@@ -277,7 +277,7 @@ TEST_P(出張申請一覧, 人事のデータベースが途中で無くなっ�
             ASSERT_TRUE(人事(
                 u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = current_database() AND pid <> pg_backend_pid()"_qs));
         } else {
-            s.データ.連携先()->業務接続.閉じる();
+            s.データ.接続().連携先()->業務接続.閉じる();
         }
         押す(x, u"btn_複合検索"_qs);
         EXPECT_TRUE(x.一覧().項目.isEmpty());
@@ -294,7 +294,7 @@ TEST_P(出張申請一覧, 人事のデータベースが途中で無くなっ�
 }
 
 TEST_P(出張申請一覧, 作業事業所が本社でなければその事業所の申請だけが出る) {
-    s.データ.作業事業所コード = u"001"_qs;
+    s.データ.接続().作業事業所コード設定(u"001"_qs);
     QString 文;
     EXPECT_EQ(検索(u"btn_複合検索"_qs, {}, &文), QStringList{u"00000002"_qs});
     EXPECT_TRUE(
@@ -304,17 +304,17 @@ TEST_P(出張申請一覧, 作業事業所が本社でなければその事業�
 
 TEST_P(出張申請一覧, 文の形は人事側の方言で決まりOではWHEREを重ねず知らない方言では探さない) {
     // The company's own database says 'O'; the HR database's dialect is what counts.
-    s.データ.環境.db = u"O"_qs;
+    s.データ.接続().環境変更([&](プログラム環境情報& 値) { 値.db = u"O"_qs; });
     QString 文;
     EXPECT_EQ(検索(u"btn_複合検索"_qs, {}, &文).size(), 2);
     EXPECT_TRUE(文.contains(u" FROM K出張区分 INNER JOIN ("_qs)) << 文.toStdString();
-    s.データ.連携先()->定義.db = u"O"_qs;
+    s.データ.接続().連携先()->定義.db = u"O"_qs;
     検索(u"btn_複合検索"_qs, {}, &文);
     EXPECT_TRUE(文.contains(
         u" FROM K出張区分,M社員, T出張申請 WHERE M社員.コード = T出張申請.社員コード AND K出張区分.区分 = T出張申請.出張区分 AND (T出張申請.番号基準日付 <> '')"_qs))
         << 文.toStdString();
     EXPECT_EQ(文.count(u" WHERE "_qs), 1);
-    s.データ.連携先()->定義.db = u"X"_qs;
+    s.データ.接続().連携先()->定義.db = u"X"_qs;
     EXPECT_EQ(検索(u"btn_複合検索"_qs, {}, &文), QStringList());
     EXPECT_TRUE(文.isEmpty());
 }

@@ -37,18 +37,18 @@ TEST_P(出金No一覧の作業事業所, 支店で始めた後に運用事業所
     ASSERT_TRUE(木->環境DB実行(
         u"UPDATE 動作環境定義 SET 運用事業所コード = '001' WHERE 動作環境定義ID = '001'"_qs));
     開始();
-    ASSERT_EQ(s.データ.作業事業所コード, u"001"_qs);
-    s.データ.運用事業所変更(u"000"_qs);
-    ASSERT_EQ(s.データ.環境.運用事業所コード, u"000"_qs);
+    ASSERT_EQ(s.データ.接続().作業事業所コード(), u"001"_qs);
+    s.データ.接続().運用事業所変更(u"000"_qs);
+    ASSERT_EQ(s.データ.接続().環境().運用事業所コード, u"000"_qs);
     EXPECT_EQ(開いて見る(), QStringList{u"00000007"_qs});
     EXPECT_TRUE(文.contains(u" WHERE T出金.事業所コード = '001'"_qs)) << 文.toStdString();
 }
 
 TEST_P(出金No一覧の作業事業所, 本社で始めた後に運用事業所が支店になっても全事業所の伝票が出る) {
     開始();
-    ASSERT_EQ(s.データ.作業事業所コード, u"000"_qs);
-    s.データ.運用事業所変更(u"001"_qs);
-    ASSERT_EQ(s.データ.環境.運用事業所コード, u"001"_qs);
+    ASSERT_EQ(s.データ.接続().作業事業所コード(), u"000"_qs);
+    s.データ.接続().運用事業所変更(u"001"_qs);
+    ASSERT_EQ(s.データ.接続().環境().運用事業所コード, u"001"_qs);
     EXPECT_EQ(開いて見る(), (QStringList{u"00000009"_qs, u"00000007"_qs}));
     EXPECT_FALSE(文.contains(u"T出金.事業所コード ="_qs)) << 文.toStdString();
 }

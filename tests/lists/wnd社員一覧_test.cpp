@@ -189,8 +189,8 @@ TEST_P(社員一覧, 選んだ社員のコードが出張申請一覧に入る) 
 }
 
 TEST_P(社員一覧, 作業事業所が本社でなければその事業所と本社の社員だけが出る) {
-    s.データ.環境.運用事業所コード = u"001"_qs;
-    s.データ.作業事業所コード = u"001"_qs;
+    s.データ.接続().環境変更([&](プログラム環境情報& 値) { 値.運用事業所コード = u"001"_qs; });
+    s.データ.接続().作業事業所コード設定(u"001"_qs);
     QStringList 行;
     QString 文;
     社員一覧で([&](一覧画面& x) {
@@ -237,7 +237,7 @@ TEST_P(社員一覧, 人事のデータベースが無くなると区分も行�
         ASSERT_TRUE(人事(
             u"SELECT pg_terminate_backend(pid) FROM pg_stat_activity WHERE datname = current_database() AND pid <> pg_backend_pid()"_qs));
     } else {
-        s.データ.連携先()->業務接続.閉じる();
+        s.データ.接続().連携先()->業務接続.閉じる();
     }
     bool 開いた = false;
     社員一覧で([&](一覧画面& x) {
@@ -303,13 +303,13 @@ TEST_P(社員一覧, 条件照合は在籍区分社員区分名前カナ事業�
     x.検索種別 = 0;
     x.条件[u"カナ"_qs].clear();
     // The office at work: its own employees and those of the head office.
-    s.データ.環境.運用事業所コード = u"002"_qs;
+    s.データ.接続().環境変更([&](プログラム環境情報& 値) { 値.運用事業所コード = u"002"_qs; });
     EXPECT_FALSE(照らす());
     状.事業所コード = u"000"_qs;
     EXPECT_TRUE(照らす());
     状.事業所コード = u"002"_qs;
     EXPECT_TRUE(照らす());
-    s.データ.環境.運用事業所コード = u"000"_qs;
+    s.データ.接続().環境変更([&](プログラム環境情報& 値) { 値.運用事業所コード = u"000"_qs; });
     x.条件[u"部門コード"_qs] = u"003"_qs;
     x.条件[u"セクションコード"_qs] = u"005"_qs;
     EXPECT_FALSE(照らす());

@@ -16,20 +16,22 @@ class 番号設定 : public 番号設定試験 {
         if (IsSkipped() || HasFatalFailure()) return;
         ASSERT_NO_FATAL_FAILURE(起動());
     }
-    void 事業所別に() { 環境.会社.伝票番号管理区分 = 1; }
+    void 事業所別に() {
+        環境.会社設定().会社変更([&](会社情報& 値) { 値.伝票番号管理区分 = 1; });
+    }
 
     // The session's general database, with every statement written down on its way.
     番号環境 記録付き(QStringList& 文一覧) {
         return 番号環境(
             [&](記録集合& rs, const QString& 文) {
                 文一覧.append(文);
-                return 環境.業務DB検索(rs, 文);
+                return 環境.接続().業務DB検索(rs, 文);
             },
             [&](const QString& 文) {
                 文一覧.append(文);
-                return 環境.業務DB実行(文);
+                return 環境.接続().業務DB実行(文);
             },
-            基盤, 環境.会社);
+            基盤, 環境.会社設定().会社());
     }
 };
 
@@ -51,7 +53,7 @@ TEST_P(番号設定, 種類1は年度終了日で決算日の翌日は翌年度�
 TEST_P(番号設定, 種類2は月の締日で種類3は日付そのもの) {
     ASSERT_NO_FATAL_FAILURE(種類設定(出金, u"2"_qs));
     EXPECT_EQ(番号基準日付取得(環境, 出金, u"20260415"_qs), u"20260430"_qs);
-    環境.会社.決算日 = 20;
+    環境.会社設定().会社変更([&](会社情報& 値) { 値.決算日 = 20; });
     EXPECT_EQ(番号基準日付取得(環境, 出金, u"20260420"_qs), u"20260420"_qs);
     EXPECT_EQ(番号基準日付取得(環境, 出金, u"20260421"_qs), u"20260520"_qs);
     ASSERT_NO_FATAL_FAILURE(種類設定(出金, u"3"_qs));
@@ -378,22 +380,22 @@ TEST_P(番号設定, 事業所別の手入力の種類の履歴番号は事業�
 // --- update program ---
 
 TEST_P(番号設定, 更新プログラムが空やNULLや未知の番号IDなら何も起動しない) {
-    更新プログラム起動(環境, 出金);
+    更新プログラム起動(環境.接続(), 出金);
     ASSERT_TRUE(木->業務DB実行(u"UPDATE A番号情報 SET 更新プログラム = NULL"_qs));
-    更新プログラム起動(環境, 出金);
-    更新プログラム起動(環境, 未知);
+    更新プログラム起動(環境.接続(), 出金);
+    更新プログラム起動(環境.接続(), 未知);
     EXPECT_TRUE(基盤.起動済み.isEmpty());
 }
 
 TEST_P(番号設定, 更新プログラムはプログラムフォルダから待たずに起動する) {
     ASSERT_TRUE(木->業務DB実行(
         u"UPDATE A番号情報 SET 更新プログラム = '翠嶺更新' WHERE 番号ID = '16810'"_qs));
-    更新プログラム起動(環境, 出金);
+    更新プログラム起動(環境.接続(), 出金);
     ASSERT_EQ(基盤.起動済み.size(), 1);
     EXPECT_EQ(基盤.起動済み[0].プログラム, 木->プログラムフォルダ() + u"/翠嶺更新"_qs);
     EXPECT_TRUE(基盤.起動済み[0].引数.isEmpty());
     EXPECT_EQ(基盤.起動済み[0].作業フォルダ, 木->プログラムフォルダ());
-    更新プログラム起動(環境, 閲覧);
+    更新プログラム起動(環境.接続(), 閲覧);
     EXPECT_EQ(基盤.起動済み.size(), 1);
 }
 
@@ -413,22 +415,22 @@ TEST(未使用番号採番, 使用済みの番号を飛ばし上限なく取り�
 TEST_P(番号設定, 競合する二人は文書表での取り直しで別の番号を得る) {
     台本プラットフォーム 基盤B;
     データ環境 環境B{基盤B};
-    環境B.自身のフォルダ = 木->プログラムフォルダ();
-    ASSERT_TRUE(環境B.SYB_OPEN());
-    ASSERT_TRUE(環境B.DB_OPEN());
-    ASSERT_TRUE(環境B.基本項目読込());
+    環境B.接続().自身のフォルダ設定(木->プログラムフォルダ());
+    ASSERT_TRUE(環境B.接続().SYB_OPEN());
+    ASSERT_TRUE(環境B.接続().DB_OPEN());
+    ASSERT_TRUE(環境B.会社設定().基本項目読込());
 
     const QString 基準 = u"20270331"_qs;
     auto 使用済み = [&](データ環境& e, const QString& 番号) {
         記録集合 rs;
-        const bool 有 = e.業務DB検索(
+        const bool 有 = e.接続().業務DB検索(
             rs, u"SELECT TOP 1 出金No FROM T出金"_qs + u" WHERE 事業所コード = '"_qs + u"000"_qs +
                     u"' AND 番号基準日付 = '"_qs + 基準 + u"' AND 出金No = '"_qs + 番号 + u"'"_qs);
         rs.閉じる();
         return 有;
     };
     auto 登録 = [&](データ環境& e, const QString& 番号) {
-        return e.業務DB実行(
+        return e.接続().業務DB実行(
             u"INSERT INTO T出金 (事業所コード, 番号基準日付, 出金No) VALUES "
             "('000', '"_qs +
             基準 + u"', '"_qs + 番号 + u"')"_qs);
@@ -438,7 +440,7 @@ TEST_P(番号設定, 競合する二人は文書表での取り直しで別の�
 
     QString 番号A;
     bool 割込済 = false;
-    番号環境 B側([&](記録集合& rs, const QString& 文) { return 環境B.業務DB検索(rs, 文); },
+    番号環境 B側([&](記録集合& rs, const QString& 文) { return 環境B.接続().業務DB検索(rs, 文); },
                  [&](const QString& 文) {
                      if (!割込済 && 文.startsWith(u"UPDATE A期日別番号情報"_qs)) {
                          割込済 = true;
@@ -447,9 +449,9 @@ TEST_P(番号設定, 競合する二人は文書表での取り直しで別の�
                                             [&](const QString& n) { return 使用済み(環境, n); });
                          EXPECT_TRUE(登録(環境, 番号A));
                      }
-                     return 環境B.業務DB実行(文);
+                     return 環境B.接続().業務DB実行(文);
                  },
-                 基盤B, 環境B.会社);
+                 基盤B, 環境B.会社設定().会社());
     QStringList B試行;
     const QString 番号B = 未使用番号採番(
         [&] {

@@ -12,7 +12,7 @@ class 番号設定試験 : public エンジン別試験 {
   protected:
     void 起動() {
         ASSERT_NO_FATAL_FAILURE(開く());
-        ASSERT_TRUE(環境.基本項目読込());
+        ASSERT_TRUE(環境.会社設定().基本項目読込());
     }
 
     // Rows as "a|b|c", so that a whole table compares in one assertion.

@@ -26,7 +26,7 @@ class 暗証番号確認 : public エンジン別試験 {
     void 準備() {
         開く();
         if (HasFatalFailure()) return;
-        ASSERT_TRUE(環境.基本項目読込());
+        ASSERT_TRUE(環境.会社設定().基本項目読込());
         窓 = std::make_unique<msg暗証番号確認>(環境);
     }
     void 業務(const QString& 文) { ASSERT_TRUE(木->業務DB実行(文)) << 文.toStdString(); }
@@ -44,7 +44,9 @@ class 暗証番号確認 : public エンジン別試験 {
             if (名 == 窓名) 手順();
         };
     }
-    short 確認(short 区分 = 0) { return 環境.操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 区分); }
+    short 確認(short 区分 = 0) {
+        return 環境.操作者権限().操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 区分);
+    }
 
     部品& c(const QString& 名前) { return 窓->画面(名前); }
     QString 焦点() const {
@@ -81,9 +83,9 @@ TEST_P(暗証番号確認, 正しい暗証番号で操作者が確定し起動�
     EXPECT_EQ(名前, u"上田 健一"_qs);
     EXPECT_EQ(焦点後, u"暗証番号"_qs);  // the name field is no tab stop
     EXPECT_EQ(起動担当者(), u"00003"_qs);
-    EXPECT_EQ(環境.操作者.担当者コード, u"00003"_qs);
-    EXPECT_EQ(環境.操作者.氏名, u"上田 健一"_qs);
-    EXPECT_TRUE(環境.権限確認済);
+    EXPECT_EQ(環境.操作者権限().操作者().担当者コード, u"00003"_qs);
+    EXPECT_EQ(環境.操作者権限().操作者().氏名, u"上田 健一"_qs);
+    EXPECT_TRUE(環境.操作者権限().権限確認済());
     EXPECT_EQ(基盤.閉じた画面, QStringList{窓名});
     EXPECT_TRUE(基盤.表示文言().isEmpty());
     EXPECT_TRUE(履歴().last()[1].toString().startsWith(
@@ -100,8 +102,8 @@ TEST_P(暗証番号確認, 違う暗証番号は知らせて暗証番号に戻�
     操作者が([&] {
         打つ(u"00003"_qs, u"9999"_qs);
         焦点列.append(焦点());
-        途中の操作者 = 環境.操作者.担当者コード;
-        EXPECT_FALSE(環境.権限確認済);
+        途中の操作者 = 環境.操作者権限().操作者().担当者コード;
+        EXPECT_FALSE(環境.操作者権限().権限確認済());
         暗証だけ打つ(u"0000"_qs);
         焦点列.append(焦点());
         暗証だけ打つ(u"1234"_qs);
@@ -118,7 +120,7 @@ TEST_P(暗証番号確認, 違う暗証番号のまま閉じれば確定せず0)
     準備();
     操作者が([&] { 打つ(u"00003"_qs, u"9999"_qs); });
     EXPECT_EQ(確認(), 0);
-    EXPECT_FALSE(環境.権限確認済);
+    EXPECT_FALSE(環境.操作者権限().権限確認済());
     EXPECT_EQ(起動担当者(), QString());
 }
 
@@ -132,7 +134,7 @@ TEST_P(暗証番号確認, 空の入力は知らせて暗証番号に戻る) {
     EXPECT_EQ(確認(), 0);
     EXPECT_EQ(基盤.表示文言(), QStringList{u"暗証番号を入力してください。"_qs});
     EXPECT_EQ(焦点後, u"暗証番号"_qs);
-    EXPECT_EQ(環境.操作者.担当者コード, QString());
+    EXPECT_EQ(環境.操作者権限().操作者().担当者コード, QString());
 }
 
 TEST_P(暗証番号確認, 特権暗証番号は大文字にした入力で誰の代わりにも通る) {
@@ -170,7 +172,7 @@ TEST_P(暗証番号確認, キャンセルは確定せず窓を閉じ起動担�
         窓->画面.操作_クリック(c(u"btn_キャンセル"_qs));
     });
     EXPECT_EQ(確認(), 0);
-    EXPECT_FALSE(環境.権限確認済);
+    EXPECT_FALSE(環境.操作者権限().権限確認済());
     EXPECT_EQ(基盤.閉じた画面, QStringList{窓名});
     EXPECT_EQ(起動担当者(), u"99999"_qs);
     EXPECT_TRUE(基盤.表示文言().isEmpty());
@@ -194,7 +196,7 @@ TEST_P(暗証番号確認, 利用者名がログインIDなら名前まで埋ま
     EXPECT_EQ(名前, u"上田 健一"_qs);
     EXPECT_FALSE(止まる);
     EXPECT_EQ(焦点後, u"暗証番号"_qs);
-    EXPECT_EQ(環境.操作者.ログインID, 端末利用者名取得());
+    EXPECT_EQ(環境.操作者権限().操作者().ログインID, 端末利用者名取得());
 }
 
 // The window is made once and shown for each check: each show starts from empty fields.
@@ -294,7 +296,7 @@ TEST_P(暗証番号確認, 確定した人が拒まれれば1) {
     操作者が([&] { 打つ(u"2"_qs, u"22"_qs); });
     EXPECT_EQ(確認(), 1);
     EXPECT_EQ(起動担当者(), u"00002"_qs);
-    EXPECT_TRUE(環境.権限確認済);
+    EXPECT_TRUE(環境.操作者権限().権限確認済());
 }
 
 TEST_P(暗証番号確認, 起動担当者コードが書けなくても確定は続く) {
@@ -303,7 +305,7 @@ TEST_P(暗証番号確認, 起動担当者コードが書けなくても確定�
     操作者が([&] { 打つ(u"3"_qs, u"1234"_qs); });
     EXPECT_EQ(確認(), -1);
     EXPECT_EQ(基盤.表示文言(), QStringList{u"データベースに問題が発生し修正できませんでした。"_qs});
-    EXPECT_TRUE(環境.権限確認済);
+    EXPECT_TRUE(環境.操作者権限().権限確認済());
     EXPECT_EQ(基盤.閉じた画面, QStringList{窓名});
 }
 

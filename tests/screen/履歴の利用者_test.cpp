@@ -24,7 +24,7 @@ class 履歴の利用者 : public 両エンジン入力画面 {
             r << 行[0].toString();
         return r;
     }
-    QString 今の利用者() const { return 記録者ID(s.データ.環境); }
+    QString 今の利用者() const { return 記録者ID(s.データ.接続().環境()); }
 };
 
 TEST_P(履歴の利用者, 修正では古い見出しは保存した人で古い明細は今の操作者になる) {

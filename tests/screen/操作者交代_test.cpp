@@ -15,7 +15,7 @@ class 操作者交代 : public エンジン別試験 {
         if (IsSkipped() || HasFatalFailure()) return;
         ASSERT_TRUE(木->業務DB実行(u"UPDATE Mユーザ SET 暗証番号有無 = 1"_qs));
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
-        s.データ.自身のフォルダ = 木->プログラムフォルダ();
+        s.データ.接続().自身のフォルダ設定(木->プログラムフォルダ());
         f.停止 = [] {};
         基盤.画面表示時 = [this](const QString& 名) {
             if (名 == u"msg印刷確認")
@@ -43,7 +43,7 @@ class 操作者交代 : public エンジン別試験 {
                                    u"' WHERE 動作環境定義ID = '001'"_qs));
     }
     QString 利用者(const QString& コード) const {
-        return s.データ.環境.ユーザID + コード + s.データ.環境.端末名;
+        return s.データ.接続().環境().ユーザID + コード + s.データ.接続().環境().端末名;
     }
     qint64 合計() {
         return 木->業務DB行(u"SELECT 出金金額合計 FROM T出金 WHERE 出金No = '00000001'"_qs)

@@ -16,7 +16,7 @@ class 連携終了 : public エンジン別試験 {
         if (IsSkipped() || HasFatalFailure()) return;
         ASSERT_TRUE(木->プログラムを置く(u"紺碧帳書"_qs));
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
-        s.データ.自身のフォルダ = 木->プログラムフォルダ();
+        s.データ.接続().自身のフォルダ設定(木->プログラムフォルダ());
         f = std::make_unique<frm紺碧帳>(s);
         画面 = std::make_unique<窓なしの入力画面>(*f, [this] { 起動->伝票読込(); });
         起動 = std::make_unique<紺碧帳起動>(s, *画面);

@@ -16,12 +16,12 @@ class プログラム連携 : public ::testing::Test {
     // One whole run with the command line given; answers what it took as its request.
     QString 走らせる(const QString& コマンドライン) {
         出金セッション s(基盤);
-        s.データ.自身のフォルダ = 木->プログラムフォルダ();
+        s.データ.接続().自身のフォルダ設定(木->プログラムフォルダ());
         画面なし 画面;
         紺碧帳起動 起動(s, 画面);
         if (起動.プログラム開始(コマンドライン) != 起動結果::稼動) return u"停止"_qs;
-        const QString 受信 = s.データ.受信起動連携情報;
-        発信元 = s.データ.発信元プログラムID;
+        const QString 受信 = s.データ.プログラム連携().受信起動連携情報();
+        発信元 = s.データ.プログラム連携().発信元プログラムID();
         起動.停止処理();
         return 受信;
     }
@@ -131,7 +131,7 @@ TEST_F(プログラム連携, 何も保存しなかった連携の起動は空�
 TEST_F(プログラム連携, 答えが書けなくても履歴に残り開き直して終了行は書かれる) {
     ASSERT_TRUE(連携要求を書く(*木, u"20261123 095959"_qs, 鍵));
     出金セッション s(基盤);
-    s.データ.自身のフォルダ = 木->プログラムフォルダ();
+    s.データ.接続().自身のフォルダ設定(木->プログラムフォルダ());
     画面なし 画面;
     紺碧帳起動 起動(s, 画面);
     ASSERT_EQ(起動.プログラム開始(鍵), 起動結果::稼動);
@@ -156,7 +156,7 @@ class 人事側の連携 : public ::testing::Test {
     void SetUp() override {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         基盤.時刻 = QDateTime(QDate(2026, 11, 23), QTime(10, 0, 0));
-        s.データ.自身のフォルダ = 木.プログラムフォルダ();
+        s.データ.接続().自身のフォルダ設定(木.プログラムフォルダ());
         ASSERT_TRUE(連携要求を書く(木, u"20261123 095950"_qs, 鍵, u"白樺給与"_qs, true));
     }
     int 白樺の連携行() { return 木.人事環境DB行(u"SELECT * FROM プログラム連携情報"_qs).size(); }
@@ -172,8 +172,8 @@ TEST_F(人事側の連携, 自社に要求が無ければ白樺の要求を取�
     EXPECT_TRUE(s.白樺連携フラグ);
     EXPECT_EQ(白樺の連携行(), 0);
     // Taken out, yet the run is not a linked one: it owes nobody an answer.
-    EXPECT_EQ(s.データ.受信起動連携情報, QString());
-    EXPECT_EQ(s.データ.発信元プログラムID, QString());
+    EXPECT_EQ(s.データ.プログラム連携().受信起動連携情報(), QString());
+    EXPECT_EQ(s.データ.プログラム連携().発信元プログラムID(), QString());
     起動.停止処理();
     EXPECT_EQ(白樺の連携行(), 0);
     EXPECT_TRUE(木.環境DB行(u"SELECT * FROM プログラム連携情報"_qs).isEmpty());
@@ -182,7 +182,7 @@ TEST_F(人事側の連携, 自社に要求が無ければ白樺の要求を取�
 TEST_F(人事側の連携, 自社で要求を受けた起動は白樺の要求に触れない) {
     ASSERT_TRUE(連携要求を書く(木, u"20261123 095950"_qs, 鍵, u"翠嶺"_qs));
     ASSERT_EQ(起動.プログラム開始(鍵), 起動結果::稼動);
-    EXPECT_EQ(s.データ.発信元プログラムID, u"翠嶺"_qs);
+    EXPECT_EQ(s.データ.プログラム連携().発信元プログラムID(), u"翠嶺"_qs);
     EXPECT_EQ(白樺の連携行(), 1);
     起動.停止処理();
 }

@@ -14,7 +14,7 @@ class 人事連携起動 : public ::testing::Test {
     void SetUp() override {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         基盤.時刻 = QDateTime(QDate(2026, 11, 23), QTime(10, 0, 0));
-        s.データ.自身のフォルダ = 木.プログラムフォルダ();
+        s.データ.接続().自身のフォルダ設定(木.プログラムフォルダ());
     }
     QStringList 履歴() {
         QStringList r;
@@ -34,12 +34,12 @@ class 人事連携起動 : public ::testing::Test {
 TEST_F(人事連携起動, 白樺が開けば始まり止めると連携の接続も閉じる) {
     ASSERT_EQ(起動.プログラム開始(QString()), 起動結果::稼動);
     EXPECT_TRUE(s.白樺連携フラグ);
-    ASSERT_NE(s.データ.連携先(), nullptr);
-    EXPECT_TRUE(s.データ.連携先()->業務DB接続中);
+    ASSERT_NE(s.データ.接続().連携先(), nullptr);
+    EXPECT_TRUE(s.データ.接続().連携先()->業務DB接続中);
     EXPECT_TRUE(基盤.表示文言().isEmpty());
     起動.停止処理();
-    EXPECT_FALSE(s.データ.連携先()->業務DB接続中);
-    EXPECT_FALSE(s.データ.連携先()->環境DB接続中);
+    EXPECT_FALSE(s.データ.接続().連携先()->業務DB接続中);
+    EXPECT_FALSE(s.データ.接続().連携先()->環境DB接続中);
     EXPECT_EQ(履歴().last(), u"終了"_qs);
 }
 
@@ -48,7 +48,7 @@ TEST_F(人事連携起動, 白樺の一般データベースが無ければ知�
     ASSERT_EQ(起動.プログラム開始(QString()), 起動結果::停止);
     EXPECT_EQ(基盤.表示文言(), QStringList{u"白樺連携データベースが使用できません。"_qs});
     EXPECT_NE(履歴().last(), u"終了"_qs);
-    EXPECT_FALSE(s.データ.連携先()->環境DB接続中);
+    EXPECT_FALSE(s.データ.接続().連携先()->環境DB接続中);
 }
 
 TEST_F(人事連携起動, 白樺のサーバーが止まっていれば知らせて止まる) {
@@ -74,7 +74,7 @@ TEST_F(人事連携起動, 連携を切った会社は白樺の木があって�
     ASSERT_TRUE(木.業務DB実行(u"UPDATE M他業務連携 SET 連携有無区分 = 0 WHERE コード = '002'"_qs));
     ASSERT_EQ(起動.プログラム開始(QString()), 起動結果::稼動);
     EXPECT_FALSE(s.白樺連携フラグ);
-    EXPECT_EQ(s.データ.連携先(), nullptr);
+    EXPECT_EQ(s.データ.接続().連携先(), nullptr);
 }
 
 }  // namespace

@@ -346,8 +346,8 @@ TEST_P(出金登録, 更新実行区分0では待ち行列を環境DBに書き�
     ASSERT_TRUE(木->業務DB実行(u"UPDATE M事業所 SET 更新実行区分 = 0"_qs));
     ASSERT_TRUE(木->業務DB実行(
         u"UPDATE A番号情報 SET 更新プログラム = 'konpeki-update' WHERE 番号ID = '16810'"_qs));
-    ASSERT_TRUE(s.データ.基本項目読込());
-    ASSERT_EQ(s.データ.会社.更新実行区分, 0);
+    ASSERT_TRUE(s.データ.会社設定().基本項目読込());
+    ASSERT_EQ(s.データ.会社設定().会社().更新実行区分, 0);
     二行の伝票を打つ();
     ASSERT_TRUE(s.新規登録処理());
     EXPECT_EQ(未集計行(), QStringList());
@@ -355,8 +355,8 @@ TEST_P(出金登録, 更新実行区分0では待ち行列を環境DBに書き�
     ASSERT_EQ(基盤.起動済み.size(), 1);
     EXPECT_EQ(基盤.起動済み[0].プログラム, 木->プログラムフォルダ() + u"/konpeki-update"_qs);
     // Connections opened afresh serve the next slip.
-    EXPECT_TRUE(s.データ.環境DB接続中);
-    EXPECT_TRUE(s.データ.業務DB接続中);
+    EXPECT_TRUE(s.データ.接続().環境DB接続中());
+    EXPECT_TRUE(s.データ.接続().業務DB接続中());
     s.出金情報初期化();
     EXPECT_TRUE(読込(u"00000001"_qs));
     EXPECT_EQ(s.最終行, 1);

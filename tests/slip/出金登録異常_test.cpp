@@ -76,7 +76,7 @@ TEST_P(出金登録異常, 読込専用になった業務DBへの登録は失敗
 
     // Closed first: SQLite would hand a descriptor of the file still open for writing to the
     // next open in this process.
-    s.データ.業務DB().閉じる();
+    s.データ.接続().業務DB().閉じる();
     const QString 業務DB = 木->業務DB();
     ASSERT_TRUE(QFile::setPermissions(業務DB, QFile::ReadOwner | QFile::ReadGroup));
     // Root writes through permissions; the immutable flag stops it too.
@@ -92,7 +92,7 @@ TEST_P(出金登録異常, 読込専用になった業務DBへの登録は失敗
         std::function<void()> 処理;
         ~最後に() { 処理(); }
     } 後始末{書込可に戻す};
-    ASSERT_TRUE(s.データ.DB_OPEN());  // the program's connection sees the file as it now is
+    ASSERT_TRUE(s.データ.接続().DB_OPEN());  // the program's connection sees the file as it now is
 
     const qsizetype 前のエラー = 履歴行(u"エラー "_qs).size();
     s.出金情報初期化();
@@ -110,7 +110,7 @@ TEST_P(出金登録異常, 読込専用になった業務DBへの登録は失敗
     EXPECT_EQ(s.処理結果区分, 3);
 
     書込可に戻す();
-    ASSERT_TRUE(s.データ.DB_OPEN());
+    ASSERT_TRUE(s.データ.接続().DB_OPEN());
     EXPECT_EQ(見出し行(), QStringList{打った見出し(u"3200|300|3300|3000|3300|0|0|3000|300"_qs,
                                                    u"20251120 100000"_qs, {})});
     EXPECT_EQ(明細行(), 二行の明細(u"1000|100|1100|1000|1100"_qs, u"20251120 100000"_qs, {}));

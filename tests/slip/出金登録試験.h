@@ -20,7 +20,7 @@ class 出金登録試験 : public 出金試験 {
         ASSERT_TRUE(明細入力(s, 1, 金額::円(2200), {}, u"電車"_qs));
     }
 
-    QString 利用者() const { return 記録者ID(s.データ.環境); }
+    QString 利用者() const { return 記録者ID(s.データ.接続().環境()); }
 
     // The typed header as T出金 holds it, by its nine totals.
     QString 打った見出し(const QString& 合計, const QString& 登録日付,

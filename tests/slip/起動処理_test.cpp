@@ -35,7 +35,7 @@ class 起動 : public ::testing::Test {
     void SetUp() override {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         基盤.時刻 = QDateTime(QDate(2026, 11, 22), QTime(10, 0, 0));
-        s.データ.自身のフォルダ = 木.プログラムフォルダ();
+        s.データ.接続().自身のフォルダ設定(木.プログラムフォルダ());
         画面.読込 = [this] { 起動処理.伝票読込(); };
     }
     QStringList 履歴() {
@@ -69,8 +69,8 @@ TEST_F(起動, 見本の木で開始し閉じると開始行と終了行が残�
     EXPECT_EQ(s.最終行, -1);
     起動処理.停止処理();
     EXPECT_EQ(履歴(), (QStringList{u"000000000001 開始 "_qs, u"000000000002 終了"_qs}));
-    EXPECT_FALSE(s.データ.環境DB().開いている());
-    EXPECT_FALSE(s.データ.業務DB().開いている());
+    EXPECT_FALSE(s.データ.接続().環境DB().開いている());
+    EXPECT_FALSE(s.データ.接続().業務DB().開いている());
 }
 
 TEST_F(起動, 連携条件項目が翠嶺の表に書かれる) {
@@ -112,7 +112,7 @@ TEST_F(起動, 暗証番号のある会社で許された操作者は窓なし�
     ASSERT_TRUE(木.業務DB実行(u"UPDATE Mユーザ SET 暗証番号有無 = 1"_qs));
     ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
     EXPECT_TRUE(基盤.表示画面.isEmpty());
-    EXPECT_EQ(s.データ.操作者.氏名, u"青木 翔太"_qs);
+    EXPECT_EQ(s.データ.操作者権限().操作者().氏名, u"青木 翔太"_qs);
 }
 
 TEST_F(起動, 暗証番号の無い会社では拒まれた操作者でも始まる) {
@@ -136,7 +136,7 @@ TEST_F(起動, データベースが開かなければ知らせて終了処理�
 }
 
 TEST_F(起動, 木がなければ知らせて止まり何も書かない) {
-    s.データ.自身のフォルダ = 木.根() + u"/elsewhere"_qs;
+    s.データ.接続().自身のフォルダ設定(木.根() + u"/elsewhere"_qs);
     ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
     // Outside a prgbin the program has no tree: it names its own folder.
     const QString 所 = 木.根() + u"/elsewhere"_qs;
@@ -155,7 +155,7 @@ TEST_F(起動, 導入先の木が無ければフォルダと作るコマンド�
     const QString 導入 = 外.path() + u"/usr/lib/konpeki"_qs;
     ASSERT_TRUE(QDir().mkpath(導入 + u"/prgbin"_qs));
     ASSERT_TRUE(QFile::link(u"../../../var/lib/konpeki/conf"_qs, 導入 + u"/conf"_qs));
-    s.データ.自身のフォルダ = 導入 + u"/prgbin"_qs;
+    s.データ.接続().自身のフォルダ設定(導入 + u"/prgbin"_qs);
     ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::停止);
     const QString 木の所 = 外.path() + u"/var/lib/konpeki"_qs;
     EXPECT_EQ(基盤.表示文言(),
@@ -188,7 +188,7 @@ TEST_F(起動, 開けない木はフォルダと利用者をグループに加�
     EXPECT_EQ(文言[1], u"紺碧帳のフォルダツリーを読み書きできません: "_qs + 木.根() +
                            u"\n管理者が利用者をツリーのグループ (konpeki) に加えます。\n"
                            u"sudo adduser "_qs +
-                           s.データ.環境.端末利用者名 + u" konpeki"_qs);
+                           s.データ.接続().環境().端末利用者名 + u" konpeki"_qs);
 }
 
 TEST_F(起動, 書けない設定フォルダは開けない木として示す) {
@@ -369,7 +369,7 @@ TEST_P(連携新規の担当者なし, 今日の素の新規伝票になり行�
     EXPECT_EQ(s.見出し.出金日付年 + s.見出し.出金日付月 + s.見出し.出金日付日, u"20261122"_qs);
     EXPECT_EQ(s.見出し.番号基準日付, u"20270331"_qs);
     EXPECT_EQ(s.見出し.出金No, u"00000003"_qs);
-    EXPECT_EQ(s.見出し.会計集計日付, 集計日付計算(s.データ.会社, u"20261122"_qs));
+    EXPECT_EQ(s.見出し.会計集計日付, 集計日付計算(s.データ.会社設定().会社(), u"20261122"_qs));
 }
 
 // 00012 works at office 001 and has left; 99999 is no one.
@@ -407,7 +407,7 @@ class 作業事業所 : public 起動 {
 TEST_F(作業事業所, 本社で手で起こすと伝票は本社のもので本社の系列から番号を出す) {
     ASSERT_NO_FATAL_FAILURE(事業所別の番号());
     ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
-    EXPECT_EQ(s.データ.作業事業所コード, u"000"_qs);
+    EXPECT_EQ(s.データ.接続().作業事業所コード(), u"000"_qs);
     EXPECT_EQ(s.見出し.事業所コード, u"000"_qs);
     EXPECT_EQ(s.見出し.番号基準日付, u"20270331"_qs);
     EXPECT_EQ(s.見出し.出金No, u"00000008"_qs);
@@ -420,7 +420,7 @@ TEST_F(作業事業所, 支店で手で起こすと伝票は支店のもので�
     ASSERT_NO_FATAL_FAILURE(事業所別の番号());
     ASSERT_TRUE(木.環境DB実行(u"UPDATE 動作環境定義 SET 運用事業所コード = '001'"_qs));
     ASSERT_EQ(起動処理.プログラム開始(QString()), 起動結果::稼動);
-    EXPECT_EQ(s.データ.作業事業所コード, u"001"_qs);
+    EXPECT_EQ(s.データ.接続().作業事業所コード(), u"001"_qs);
     EXPECT_EQ(s.見出し.事業所コード, u"001"_qs);
     EXPECT_EQ(s.見出し.出金No, u"00000042"_qs);
     EXPECT_TRUE(担当者あり(u"00008"_qs));   // the branch's own

@@ -74,7 +74,8 @@ class 検査 {
     QList<QStringList> 行(const QString& 文, const QStringList& 列, bool 環境 = false) {
         QList<QStringList> 結果;
         記録集合 rs;
-        const bool あり = 環境 ? s.データ.環境DB検索(rs, 文) : s.データ.業務DB検索(rs, 文);
+        const bool あり =
+            環境 ? s.データ.接続().環境DB検索(rs, 文) : s.データ.接続().業務DB検索(rs, 文);
         if (あり) {
             for (; !rs.EOFか(); rs.MoveNext()) {
                 QStringList r;
@@ -107,7 +108,7 @@ int 検査実行(const QString& プログラムフォルダ, const QStringList& 
     出金セッション s(基盤);
     画面なし 窓;
     紺碧帳起動 起動(s, 窓);
-    s.データ.自身のフォルダ = プログラムフォルダ;
+    s.データ.接続().自身のフォルダ設定(プログラムフォルダ);
     if (!起動.データベース開始()) {
         std::fprintf(stderr, "the databases do not open\n");
         return 3;

@@ -25,14 +25,15 @@ int 単発実行(const QString& プログラムフォルダ, const QString& 動�
                 for (const char16_t* 表 :
                      {u"T出金", u"T出金明細", u"R出金", u"R出金明細", u"未集計情報"}) {
                     記録集合 rs;
-                    if (人.s.データ.業務DB検索(
+                    if (人.s.データ.接続().業務DB検索(
                             rs, u"SELECT COUNT(*) AS n FROM "_qs + QString::fromUtf16(表))) {
                         数 << QString::fromUtf16(表) + u" "_qs + rs.文字列(u"n"_qs);
                     }
                     rs.閉じる();
                 }
                 記録集合 rs;
-                if (人.s.データ.環境DB検索(rs, u"SELECT COUNT(*) AS n FROM プログラム稼動履歴"_qs))
+                if (人.s.データ.接続().環境DB検索(
+                        rs, u"SELECT COUNT(*) AS n FROM プログラム稼動履歴"_qs))
                     数 << u"run history "_qs + rs.文字列(u"n"_qs);
                 rs.閉じる();
                 std::fprintf(stderr, "read %d: %s\n", n, qPrintable(数.join(u", "_qs)));

@@ -16,7 +16,7 @@ class 操作員 {
   public:
     操作員(const QString& プログラムフォルダ, int 番号) : 番号(番号), 乱(0x5EED0000u + 番号) {
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
-        s.データ.自身のフォルダ = プログラムフォルダ;
+        s.データ.接続().自身のフォルダ設定(プログラムフォルダ);
         基盤.画面表示時 = [this](const QString& 名) {
             if (名 == u"msg印刷確認")
                 f.印刷確認.画面.操作_クリック(f.印刷確認.画面(u"btn_登録"_qs));
@@ -114,7 +114,7 @@ class 操作員 {
     bool 呼び出す(const 伝票& d) {
         記録集合 rs;
         QString No;
-        if (s.データ.業務DB検索(
+        if (s.データ.接続().業務DB検索(
                 rs, u"SELECT 出金No FROM T出金 WHERE 出金伝票備考A = '"_qs + d.印 + u"'"_qs)) {
             No = rs.文字列(u"出金No"_qs);
         }

@@ -24,7 +24,7 @@ class 入力画面ウィンドウモンキー : public ::testing::TestWithParam<
     void SetUp() override {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
-        s.データ.自身のフォルダ = 木.プログラムフォルダ();
+        s.データ.接続().自身のフォルダ設定(木.プログラムフォルダ());
         画面.伝票読込 = [this] { 起動.伝票読込(); };
         f.停止 = [this] { ++停止回数; };
         基盤.画面表示時 = [this](const QString& 名) {

@@ -22,7 +22,7 @@ class 入力画面ウィンドウ試験 : public ::testing::Test {
     void SetUp() override {
         ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString();
         基盤.時刻 = QDateTime(QDate(2025, 11, 20), QTime(10, 0, 0));
-        s.データ.自身のフォルダ = 木.プログラムフォルダ();
+        s.データ.接続().自身のフォルダ設定(木.プログラムフォルダ());
         画面.伝票読込 = [this] { 起動.伝票読込(); };
         ASSERT_EQ(起動.プログラム開始(QString()), 起動結果::稼動);
         窓 = 画面.窓();

@@ -23,7 +23,7 @@ class 暗証番号確認ウィンドウ試験 : public ::testing::Test {
         ASSERT_TRUE(木.業務DB実行(u"UPDATE Mユーザ SET 暗証番号有無 = 1"_qs));
         ASSERT_TRUE(
             木.業務DB実行(u"UPDATE M担当者 SET 暗証番号 = '1234' WHERE コード = '00003'"_qs));
-        s.データ.自身のフォルダ = 木.プログラムフォルダ();
+        s.データ.接続().自身のフォルダ設定(木.プログラムフォルダ());
         画面.伝票読込 = [this] { 起動.伝票読込(); };
         基盤.画面登録(暗証.画面.名前, 暗証.画面);
         ASSERT_EQ(起動.プログラム開始(QString()), 起動結果::稼動);
@@ -83,7 +83,7 @@ TEST_F(暗証番号確認ウィンドウ試験, 入力画面の上に開いた�
     });
     番人.start(20000);
 
-    EXPECT_EQ(s.データ.操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 1), -1);
+    EXPECT_EQ(s.データ.操作者権限().操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 1), -1);
     EXPECT_TRUE(番人.isActive());
     EXPECT_EQ(題名, u"翠嶺/暗証確認"_qs);
     EXPECT_TRUE(上に);
@@ -94,7 +94,7 @@ TEST_F(暗証番号確認ウィンドウ試験, 入力画面の上に開いた�
     EXPECT_EQ(c(u"暗証番号"_qs).Text, u"1234"_qs);
     EXPECT_EQ(木.環境DB行(u"SELECT 起動担当者コード FROM 動作環境定義"_qs)[0][0].toString(),
               u"00003"_qs);
-    EXPECT_EQ(s.データ.操作者.氏名, u"上田 健一"_qs);
+    EXPECT_EQ(s.データ.操作者権限().操作者().氏名, u"上田 健一"_qs);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 

@@ -1,6 +1,7 @@
 #include <utility>
 
-#include "dataenv/データ環境.h"
+#include "dataenv/会社環境.h"
+#include "dataenv/接続環境.h"
 
 namespace {
 
@@ -99,49 +100,52 @@ void 桁数を写す(会社情報& c) {
 
 }  // namespace
 
-bool データ環境::基本項目読込() {
+会社環境::会社環境(接続環境& 接続_) : 接続(接続_) {}
+
+bool 会社環境::基本項目読込() {
     記録集合 rs;
-    const bool 行あり = 業務DB検索(rs, u"SELECT * FROM Mユーザ WHERE ID = '0001'"_qs);
+    const bool 行あり = 接続.業務DB検索(rs, u"SELECT * FROM Mユーザ WHERE ID = '0001'"_qs);
     if (行あり) {
-        会社行を読む(rs, 会社, *暗証解読);
-        暗証番号要否 = 会社.暗証番号有無;
+        会社行を読む(rs, 会社_, *暗証解読_);
+        暗証番号要否_ = 会社_.暗証番号有無;
     }
     rs.閉じる();
     if (!行あり) return false;
-    桁数を写す(会社);
+    桁数を写す(会社_);
 
     // An unknown working office is corrected for good to the head office.
-    const bool 自事業所 = 業務DB検索(
-        rs, u"SELECT * FROM M事業所 WHERE コード = '"_qs + 環境.運用事業所コード + u"'"_qs);
+    const bool 自事業所 = 接続.業務DB検索(
+        rs, u"SELECT * FROM M事業所 WHERE コード = '"_qs + 接続.環境().運用事業所コード + u"'"_qs);
     rs.閉じる();
     if (!自事業所) {
-        業務DB検索(rs, u"SELECT * FROM M事業所 WHERE コード = '000'"_qs);
+        接続.業務DB検索(rs, u"SELECT * FROM M事業所 WHERE コード = '000'"_qs);
         rs.閉じる();
-        運用事業所変更(u"000"_qs);
+        接続.運用事業所変更(u"000"_qs);
     }
     他業務連携読込();
     事業所情報読込();
 
-    事業所件数 = 0;
-    if (業務DB検索(rs, u"SELECT COUNT(*) AS 事業所件数 FROM M事業所 WHERE コード <> '000'"_qs) &&
+    事業所件数_ = 0;
+    if (接続.業務DB検索(rs,
+                        u"SELECT COUNT(*) AS 事業所件数 FROM M事業所 WHERE コード <> '000'"_qs) &&
         !rs.Null(u"事業所件数"_qs)) {
-        事業所件数 = rs.整数(u"事業所件数"_qs);
+        事業所件数_ = rs.整数(u"事業所件数"_qs);
     }
     rs.閉じる();
     return true;
 }
 
-void データ環境::事業所情報読込() {
+void 会社環境::事業所情報読込() {
     記録集合 rs;
-    const bool 自事業所 = 業務DB検索(
-        rs, u"SELECT * FROM M事業所 WHERE コード = '"_qs + 環境.運用事業所コード + u"'"_qs);
+    const bool 自事業所 = 接続.業務DB検索(
+        rs, u"SELECT * FROM M事業所 WHERE コード = '"_qs + 接続.環境().運用事業所コード + u"'"_qs);
     if (!自事業所) {
         rs.閉じる();
-        業務DB検索(rs, u"SELECT * FROM M事業所 WHERE コード = '000'"_qs);
-        運用事業所変更(u"000"_qs);
+        接続.業務DB検索(rs, u"SELECT * FROM M事業所 WHERE コード = '000'"_qs);
+        接続.運用事業所変更(u"000"_qs);
     }
     if (!rs.EOFか()) {
-        auto& o = 事業所;
+        auto& o = 事業所_;
         読む(rs,
              {{u"コード", &o.コード},
               {u"名称", &o.名称},
@@ -169,20 +173,20 @@ void データ環境::事業所情報読込() {
               {u"地区コード", &o.地区コード}},
              {{u"暗証番号有無", &o.暗証番号有無}, {u"更新実行区分", &o.更新実行区分}});
         if (!rs.Null(u"特権暗証番号"_qs))
-            o.特権暗証番号 = 暗証解読->解読(rs.文字列(u"特権暗証番号"_qs));
+            o.特権暗証番号 = 暗証解読_->解読(rs.文字列(u"特権暗証番号"_qs));
 
         // A branch office speaks for itself where it has something to say.
-        if (環境.運用事業所コード != u"000") {
-            暗証番号要否 = o.暗証番号有無;
-            会社.更新実行区分 = o.更新実行区分;
+        if (接続.環境().運用事業所コード != u"000") {
+            暗証番号要否_ = o.暗証番号有無;
+            会社_.更新実行区分 = o.更新実行区分;
             const std::pair<QString*, const QString*> 上書き[] = {
-                {&会社.総合振込ファイル, &o.総合振込ファイル},
-                {&会社.基本読込フォルダ, &o.基本読込フォルダ},
-                {&会社.帳票イメージフォルダ, &o.帳票イメージフォルダ},
-                {&会社.その他読込ファイル, &o.その他読込ファイル},
-                {&会社.本支店連携フォルダ, &o.本支店連携フォルダ},
-                {&会社.テキスト出力フォルダ, &o.テキスト出力フォルダ},
-                {&会社.BACKUPフォルダ, &o.BACKUPフォルダ},
+                {&会社_.総合振込ファイル, &o.総合振込ファイル},
+                {&会社_.基本読込フォルダ, &o.基本読込フォルダ},
+                {&会社_.帳票イメージフォルダ, &o.帳票イメージフォルダ},
+                {&会社_.その他読込ファイル, &o.その他読込ファイル},
+                {&会社_.本支店連携フォルダ, &o.本支店連携フォルダ},
+                {&会社_.テキスト出力フォルダ, &o.テキスト出力フォルダ},
+                {&会社_.BACKUPフォルダ, &o.BACKUPフォルダ},
             };
             for (const auto& [先, 元] : 上書き) {
                 if (!元->isEmpty()) *先 = *元;
@@ -192,12 +196,12 @@ void データ環境::事業所情報読込() {
     rs.閉じる();
 }
 
-void データ環境::他業務連携読込() {
-    for (int i = 0; i < 他業務連携.スロット数; ++i) {
+void 会社環境::他業務連携読込() {
+    for (int i = 0; i < 他業務連携_.スロット数; ++i) {
         記録集合 rs;
-        if (業務DB検索(rs, u"SELECT TOP 1 * FROM M他業務連携 WHERE コード = '"_qs +
-                               QString::fromUtf16(他業務連携コード[i]) + u"'"_qs)) {
-            auto& s = 他業務連携.スロット[i];
+        if (接続.業務DB検索(rs, u"SELECT TOP 1 * FROM M他業務連携 WHERE コード = '"_qs +
+                                    QString::fromUtf16(他業務連携コード[i]) + u"'"_qs)) {
+            auto& s = 他業務連携_.スロット[i];
             読む(rs,
                  {{u"業務名", &s.業務名},
                   {u"連携DB", &s.連携DB},
@@ -222,10 +226,4 @@ void データ環境::他業務連携読込() {
         }
         rs.閉じる();
     }
-}
-
-void データ環境::運用事業所変更(const QString& 事業所コード) {
-    環境.運用事業所コード = 事業所コード;
-    環境DB実行記録付(u"UPDATE 動作環境定義 SET "_qs + u" 運用事業所コード = '"_qs + 事業所コード +
-                     u"'"_qs + u" WHERE 動作環境定義ID = '001'"_qs);
 }
