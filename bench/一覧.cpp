@@ -83,7 +83,9 @@ void 一覧計測() {
     基盤.時刻 = QDateTime(QDate(2024, 2, 15), QTime(10, 0, 0));
     出金セッション s(基盤);
     s.データ.接続().自身のフォルダ設定(根 + u"/prgbin"_qs);
-    if (!s.データ.接続().SYB_OPEN() || !s.データ.接続().DB_OPEN() || !s.データ.会社設定().基本項目読込()) return;
+    if (!s.データ.接続().SYB_OPEN() || !s.データ.接続().DB_OPEN() ||
+        !s.データ.会社設定().基本項目読込())
+        return;
     frm紺碧帳 f(s);
     一覧画面集 集(s, f.画面);
     // The raw reads share the program's connection, and let it go before it is closed.

@@ -115,8 +115,9 @@ void 一覧画面::欄を結ぶ(QList<条件欄> 欄群, QList<区分欄> 区分
         p.GotFocus = [this, &p] { 主.状態.入力中項目 = &p; };
         p.LostFocus = [this, &p, 名前 = e.名前] {
             const 条件欄& 定 = *欄(名前);
-            const QString 値 =
-                定.種類 == 条件欄種類::コード ? 書式桁揃え(p.Text, ゼロ文字列(p.MaxLength)) : p.Text;
+            const QString 値 = 定.種類 == 条件欄種類::コード
+                                   ? 書式桁揃え(p.Text, ゼロ文字列(p.MaxLength))
+                                   : p.Text;
             if (値 != 条件.value(名前)) {
                 条件[名前] = 値;
                 if (!定.名称欄.isEmpty()) 条件[定.名称欄] = 名称検索(定, 値);

@@ -74,7 +74,8 @@ void frm紺碧帳::帳票(const QString& 出力区分) {
                          : 出力区分 == u"1" ? u"プレビュしますか?"_qs
                                             : u"PDFを作成しますか?"_qs;
     // A refused right ends the command without a word.
-    if (操作権限OK(d.操作者権限().操作権限確認(u"翠嶺"_qs, u"紺碧帳書"_qs, 区分)) && 問う(d.基盤(), 問い)) {
+    if (操作権限OK(d.操作者権限().操作権限確認(u"翠嶺"_qs, u"紺碧帳書"_qs, 区分)) &&
+        問う(d.基盤(), 問い)) {
         帳票起動する(出力区分);
         if (出力区分 == u"3") {
             // The report program writes the PDF and registers it; the list is read once it is

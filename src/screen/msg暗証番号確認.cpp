@@ -16,7 +16,8 @@ msg暗証番号確認::msg暗証番号確認(データ環境& データ) : d(デ
     画面.Height = 2520;
     事象を結ぶ();
     // Closed by its frame, the window confirms nobody.
-    d.基盤().画面事象登録(画面.名前, {[this] { 画面読込(); }, [this] { d.操作者権限().権限確認済設定(false); }});
+    d.基盤().画面事象登録(
+        画面.名前, {[this] { 画面読込(); }, [this] { d.操作者権限().権限確認済設定(false); }});
 }
 
 void msg暗証番号確認::事象を結ぶ() {

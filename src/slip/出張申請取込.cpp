@@ -9,7 +9,8 @@ namespace {
 // land in this run's history.
 番号環境 連携番号環境(データ環境& e) {
     return 番号環境([&e](記録集合& rs, const QString& 文) { return e.接続().連携DB検索(rs, 文); },
-                    [&e](const QString& 文) { return e.接続().連携DB実行(文); }, e.基盤(), e.会社設定().会社());
+                    [&e](const QString& 文) { return e.接続().連携DB実行(文); }, e.基盤(),
+                    e.会社設定().会社());
 }
 
 // A pick from the trip list leaves its row's key: "C", office, number base date, number. An
