@@ -11,7 +11,7 @@
 
 namespace {
 
-namespace 欄 = 一覧部品;
+using 欄 = 一覧部品;
 
 constexpr const char16_t* 期間題[] = {u"直近３ヶ月", u"直近１年", u"直近３年", u"直近10年",
                                       u"全て"};

@@ -3,7 +3,7 @@
 
 namespace {
 
-namespace 欄 = 一覧部品;
+using 欄 = 一覧部品;
 
 using enum 部品種別;
 

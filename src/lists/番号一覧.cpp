@@ -8,7 +8,7 @@
 
 namespace {
 
-namespace 欄 = 一覧部品;
+using 欄 = 一覧部品;
 
 }  // namespace
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-namespace 欄 = 紺碧帳部品;
+using 欄 = 紺碧帳部品;
 
 QString 金額表示(const 金額& 額) {
     return 書式(額, u"#,###,###,##0");

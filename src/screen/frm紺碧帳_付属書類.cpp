@@ -11,7 +11,7 @@
 
 namespace {
 
-namespace 欄 = 紺碧帳部品;
+using 欄 = 紺碧帳部品;
 
 // The picker's filter, as all programs of the suite offer it.
 const QString 書類絞込 = u"全てのファイル (*.*)|*.*|"_qs + u"ワード (*.doc)|*.doc|"_qs +

@@ -3,7 +3,7 @@
 
 namespace {
 
-namespace 欄 = 紺碧帳部品;
+using 欄 = 紺碧帳部品;
 
 // Items a detail row can be given the focus by name.
 const 部品名 明細名指し[] = {欄::費目区分, 欄::費目区分名称, 欄::内税外税区分,

@@ -7,7 +7,7 @@
 
 namespace {
 
-namespace 欄 = 紺碧帳部品;
+using 欄 = 紺碧帳部品;
 using 再 = frm紺碧帳::再表示;
 
 }  // namespace

@@ -93,11 +93,11 @@
     X(お知らせ)
 // clang-format on
 
-namespace 紺碧帳部品 {
-#define 紺碧帳の部品名(n) inline constexpr 部品名 n{u"" #n};
-紺碧帳の部品(紺碧帳の部品名)
+struct 紺碧帳部品 {
+#define 紺碧帳の部品名(n) static constexpr 部品名 n{u"" #n};
+    紺碧帳の部品(紺碧帳の部品名)
 #undef 紺碧帳の部品名
 #define 紺碧帳の部品並び(n) n,
-inline constexpr 部品名 全て[] = {紺碧帳の部品(紺碧帳の部品並び)};
+    static constexpr 部品名 全て[] = {紺碧帳の部品(紺碧帳の部品並び)};
 #undef 紺碧帳の部品並び
-}  // namespace 紺碧帳部品
+};

@@ -4,7 +4,7 @@
 namespace {
 
 using enum 部品種別;
-namespace 欄 = 紺碧帳部品;
+using 欄 = 紺碧帳部品;
 
 constexpr int 見出し上 = 600, 見出し二段 = 960;
 constexpr int 明細上 = 2040, 明細高 = 1140, 下段 = 明細上 + 510;

@@ -5,7 +5,7 @@
 
 namespace {
 
-namespace 欄 = 印刷確認部品;
+using 欄 = 印刷確認部品;
 
 using enum 部品種別;
 

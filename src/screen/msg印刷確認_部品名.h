@@ -13,11 +13,11 @@
     X(btn_いいえ)
 // clang-format on
 
-namespace 印刷確認部品 {
-#define 印刷確認の部品名(n) inline constexpr 部品名 n{u"" #n};
-印刷確認の部品(印刷確認の部品名)
+struct 印刷確認部品 {
+#define 印刷確認の部品名(n) static constexpr 部品名 n{u"" #n};
+    印刷確認の部品(印刷確認の部品名)
 #undef 印刷確認の部品名
 #define 印刷確認の部品並び(n) n,
-inline constexpr 部品名 全て[] = {印刷確認の部品(印刷確認の部品並び)};
+    static constexpr 部品名 全て[] = {印刷確認の部品(印刷確認の部品並び)};
 #undef 印刷確認の部品並び
-}  // namespace 印刷確認部品
+};

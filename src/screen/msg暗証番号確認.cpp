@@ -6,7 +6,7 @@
 
 namespace {
 
-namespace 欄 = 暗証番号確認部品;
+using 欄 = 暗証番号確認部品;
 
 }  // namespace
 

@@ -16,11 +16,11 @@
     X(btn_キャンセル)
 // clang-format on
 
-namespace 暗証番号確認部品 {
-#define 暗証番号確認の部品名(n) inline constexpr 部品名 n{u"" #n};
-暗証番号確認の部品(暗証番号確認の部品名)
+struct 暗証番号確認部品 {
+#define 暗証番号確認の部品名(n) static constexpr 部品名 n{u"" #n};
+    暗証番号確認の部品(暗証番号確認の部品名)
 #undef 暗証番号確認の部品名
 #define 暗証番号確認の部品並び(n) n,
-inline constexpr 部品名 全て[] = {暗証番号確認の部品(暗証番号確認の部品並び)};
+    static constexpr 部品名 全て[] = {暗証番号確認の部品(暗証番号確認の部品並び)};
 #undef 暗証番号確認の部品並び
-}  // namespace 暗証番号確認部品
+};

@@ -3,7 +3,7 @@
 
 namespace {
 
-namespace 欄 = 暗証番号確認部品;
+using 欄 = 暗証番号確認部品;
 
 using enum 部品種別;
 

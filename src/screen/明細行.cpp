@@ -10,7 +10,7 @@
 
 namespace {
 
-namespace 欄 = 紺碧帳部品;
+using 欄 = 紺碧帳部品;
 
 // No line of a disbursement slip is ever allocated elsewhere, so the guard always lets go.
 bool 引当済み(const 出金行&) {

@@ -22,13 +22,11 @@ struct 記録先 {
 
 }  // namespace
 
-namespace 焦点記録 {
-
-bool 有効() {
+bool 焦点記録::有効() {
     return !記録().先.isEmpty();
 }
 
-void 書く(const QString& 行) {
+void 焦点記録::書く(const QString& 行) {
     const QString& 先 = 記録().先;
     if (先.isEmpty()) return;
     if (先 == u"1" || 先 == u"-") {
@@ -40,8 +38,6 @@ void 書く(const QString& 行) {
     QTextStream(&f) << 行 << u'\n';
 }
 
-void 出力先設定(const QString& 先) {
+void 焦点記録::出力先設定(const QString& 先) {
     記録().先 = 先;
 }
-
-}  // namespace 焦点記録

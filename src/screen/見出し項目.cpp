@@ -11,7 +11,7 @@
 
 namespace {
 
-namespace 欄 = 紺碧帳部品;
+using 欄 = 紺碧帳部品;
 
 const QString 該当なし文言 = u"該当情報がありません。"_qs;
 
