@@ -93,6 +93,15 @@ std::optional<伝票鍵> 一覧の伝票鍵(const QString& 文字列) {
     return 伝票鍵を読む(文字列.mid(1));
 }
 
+std::optional<伝票鍵> 答えの鍵を取る(std::optional<QString>& 答え, QStringView 表の語) {
+    if (!答え) return std::nullopt;
+    const QString 文字列 = 答え->trimmed();
+    if (文字列.contains(表の語)) return std::nullopt;
+    std::optional<伝票鍵> 鍵 = 一覧の伝票鍵(文字列);
+    if (鍵) 答え.reset();
+    return 鍵;
+}
+
 QString 明細鍵::条件(const 鍵の列& 列) const {
     return 伝票.条件(列) + u" AND "_qs + 列名(列, 列.行列) + u" = '"_qs + 固有行No + u"'"_qs;
 }

@@ -67,6 +67,9 @@ std::optional<伝票鍵> 伝票鍵を読む(const QString& 文字列);
 伝票鍵 伝票鍵を切り出す(const QString& 文字列);
 // The key a number list hands back on a pick: one marker character, then the 19 characters.
 std::optional<伝票鍵> 一覧の伝票鍵(const QString& 文字列);
+// A list's answer taken as a key when it is one and does not name the table (that is a
+// condition, never a key); the answer is used up then.
+std::optional<伝票鍵> 答えの鍵を取る(std::optional<QString>& 答え, QStringView 表の語);
 
 // A line of a stored slip: its slip's key and its own id, 出金固有行No (3 characters).
 struct 明細鍵 {

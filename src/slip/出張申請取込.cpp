@@ -13,13 +13,6 @@ namespace {
                     e.会社設定().会社());
 }
 
-// A pick from the trip list leaves its row's key: "C", office, number base date, number. An
-// SQL condition left by another list is none.
-std::optional<伝票鍵> 一覧の鍵(const QString& 条件) {
-    if (条件.contains(u"出張申請"_qs)) return std::nullopt;
-    return 一覧の伝票鍵(条件);
-}
-
 }  // namespace
 
 bool 出金セッション::出張申請確定(const QString& 入力No, std::optional<QString>& 答え) {
@@ -54,11 +47,9 @@ bool 出金セッション::出張申請適用(const QString& 入力No, std::opt
         return true;
     }
 
-    auto 鍵 = h.出張申請鍵().番号替え(入力No);
-    if (const auto 選んだ鍵 = 一覧の鍵(答え.value_or(QString()).trimmed())) {
-        鍵 = 選んだ鍵->番号替え(入力No);
-        答え.reset();
-    }
+    // A pick from the trip list answers with its row's key: "C", office, base date, number.
+    const auto 選んだ鍵 = 答えの鍵を取る(答え, u"出張申請");
+    auto 鍵 = (選んだ鍵 ? *選んだ鍵 : h.出張申請鍵()).番号替え(入力No);
     if (鍵.番号基準日付.isEmpty()) {
         // A typed number belongs to the period of the slip date.
         鍵.番号基準日付 = 連携番号基準日付取得(

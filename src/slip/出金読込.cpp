@@ -156,13 +156,9 @@ bool 出金セッション::出金No確定(const QString& 入力No, std::optiona
         見出し.出金No = 次番号参照(データ, 番号定数::出金番号ID.toString(), 見出し.番号基準日付,
                                    見出し.事業所コード);
     } else {
-        auto 鍵 = 見出し.鍵().番号替え(入力No);
-        // A key of the slip No list, but never another list's answer.
-        const QString 条件 = 答え.value_or(QString()).trimmed();
-        if (const auto 一覧の鍵 = 一覧の伝票鍵(条件); 一覧の鍵 && !条件.contains(u"出金"_qs)) {
-            鍵 = 一覧の鍵->番号替え(入力No);
-            答え.reset();
-        }
+        // A key picked in the slip No list gives office and base date.
+        const auto 選んだ鍵 = 答えの鍵を取る(答え, u"出金");
+        const auto 鍵 = (選んだ鍵 ? *選んだ鍵 : 見出し.鍵()).番号替え(入力No);
         if (出金キー検索(鍵)) {
             出金見出し読込();
             出金明細初期化();

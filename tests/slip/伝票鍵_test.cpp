@@ -42,6 +42,22 @@ TEST(伝票鍵, 一覧の鍵は目印一文字の後の十九文字でそれ以�
     EXPECT_FALSE(一覧の伝票鍵(u"M担当者.コード >= '00012'"_qs));
 }
 
+TEST(伝票鍵, 一覧の答えは鍵のときだけ取られ使い切られる) {
+    std::optional<QString> 答え = u" C0012026033100000012 "_qs;
+    EXPECT_EQ(答えの鍵を取る(答え, u"出金"), 鍵);
+    EXPECT_FALSE(答え);
+    EXPECT_FALSE(答えの鍵を取る(答え, u"出金"));
+
+    // Twenty characters naming the table are a condition, and stay.
+    答え = u"T出金.出金No >= '1'"_qs.leftJustified(20, u' ');
+    EXPECT_FALSE(答えの鍵を取る(答え, u"出金"));
+    EXPECT_TRUE(答え);
+    // A description list's longer key is not a slip key either.
+    答え = 鍵.一覧の文字列() + u"001"_qs;
+    EXPECT_FALSE(答えの鍵を取る(答え, u"出金"));
+    EXPECT_TRUE(答え);
+}
+
 TEST(伝票鍵, 番号替えは同じ番号系列の別の番号) {
     EXPECT_EQ(鍵.番号替え(u"00000013"_qs), (伝票鍵{u"001"_qs, u"20260331"_qs, u"00000013"_qs}));
 }
