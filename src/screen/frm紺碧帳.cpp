@@ -83,25 +83,7 @@ void frm紺碧帳::事象を結ぶ() {
         s.軽減税率表示 = false;
         合計表示();
     };
-    // The lookups: Ctrl or a double click in the field, or the field's button.
-    const std::pair<部品名, 部品名> 一覧欄[] = {{欄::出金No, 欄::btn_出金No},
-                                                {欄::担当者コード, 欄::btn_担当者コード},
-                                                {欄::部門コード, 欄::btn_部門コード},
-                                                {欄::セクションコード, 欄::btn_セクションコード},
-                                                {欄::出張申請No, 欄::btn_出張申請No}};
-    for (const auto& [名, 釦] : 一覧欄) {
-        部品& p = 画面(名);
-        p.KeyDown = [this, &p](キーコード キー) {
-            if (キー == キーコード::Ctrl) 一覧を開く(p.名前);
-        };
-        if (!(名 == 欄::出張申請No)) {
-            p.DblClick = [this, &p] {
-                if (入力順序確認(p.定義.区分, -1, p.名前, p.定義.序数)) return;
-                一覧を開く(p.名前);
-            };
-        }
-        画面(釦).Click = [this, &p] { 一覧を開く(p.名前); };
-    }
+    一覧事象を結ぶ();
     画面(欄::btn_参照元No).Click = [this] { 参照元No起動(); };
     画面(欄::btn_登録).Click = [this] { 登録処理(); };
     画面(欄::btn_削除).Click = [this] { 削除(); };

@@ -132,6 +132,10 @@ class frm紺碧帳 {
 
   private:
     static const 確定定義 確定一覧[];
+    struct 一覧定義;
+    static const 一覧定義 一覧表[];
+    void 一覧事象を結ぶ();
+    void 一覧を開く(const 一覧定義& 定義);
     void 事象を結ぶ();
     void 項目事象を結ぶ(部品& p, const 確定定義* 確定);
     void 一覧を埋める();
@@ -142,9 +146,8 @@ class frm紺碧帳 {
     // The header's fields as their commits read them: the text brought to its mask first, and
     // written back to the field even when nothing changed.
     QString 整える(部品& p, const QString& 文字列);
-    bool 日付欄確定(部品& p, int 部分);
-    bool 番号欄確定(部品& p);
-    bool コード欄確定(部品& p);
+    QString 日付を揃える(部品& p);  // year "0000", month and day "00", as long as the field
+    QString 桁を揃える(部品& p);    // a code or number filled with zeros to the field's length
     bool 出張申請欄確定(部品& p);
     void 行を写す(int 元, int 先);
     void ヘッド終了取得();

@@ -16,19 +16,20 @@ using 再 = frm紺碧帳::再表示;
 // click), with what the screen redraws after a change.
 const frm紺碧帳::確定定義 frm紺碧帳::確定一覧[] = {
     // Header.
-    {欄::出金日付年, [](frm紺碧帳& f, 部品& p) { return f.日付欄確定(p, 0); },
+    {欄::出金日付年, [](frm紺碧帳& f, 部品& p) { return f.出金日付更新(0, f.日付を揃える(p)); },
      再::見出し | 再::明細 | 再::合計 | 再::知らせ},
-    {欄::出金日付月, [](frm紺碧帳& f, 部品& p) { return f.日付欄確定(p, 1); },
+    {欄::出金日付月, [](frm紺碧帳& f, 部品& p) { return f.出金日付更新(1, f.日付を揃える(p)); },
      再::見出し | 再::明細 | 再::合計 | 再::知らせ},
-    {欄::出金日付日, [](frm紺碧帳& f, 部品& p) { return f.日付欄確定(p, 2); },
+    {欄::出金日付日, [](frm紺碧帳& f, 部品& p) { return f.出金日付更新(2, f.日付を揃える(p)); },
      再::見出し | 再::明細 | 再::合計 | 再::知らせ},
-    {欄::出金No, [](frm紺碧帳& f, 部品& p) { return f.番号欄確定(p); },
+    {欄::出金No,
+     [](frm紺碧帳& f, 部品& p) { return f.s.出金No確定(f.桁を揃える(p), f.状態.選択鍵); },
      再::見出し | 再::明細 | 再::合計 | 再::付属書類 | 再::棒 | 再::知らせ},
-    {欄::担当者コード, [](frm紺碧帳& f, 部品& p) { return f.コード欄確定(p); },
+    {欄::担当者コード, [](frm紺碧帳& f, 部品& p) { return f.担当者確定(f.桁を揃える(p)); },
      再::見出し | 再::知らせ},
-    {欄::部門コード, [](frm紺碧帳& f, 部品& p) { return f.コード欄確定(p); },
+    {欄::部門コード, [](frm紺碧帳& f, 部品& p) { return f.部門確定(f.桁を揃える(p)); },
      再::見出し | 再::知らせ},
-    {欄::セクションコード, [](frm紺碧帳& f, 部品& p) { return f.コード欄確定(p); },
+    {欄::セクションコード, [](frm紺碧帳& f, 部品& p) { return f.セクション確定(f.桁を揃える(p)); },
      再::見出し | 再::知らせ},
     {欄::出張申請No, [](frm紺碧帳& f, 部品& p) { return f.出張申請欄確定(p); },
      再::見出し | 再::明細 | 再::合計 | 再::棒 | 再::知らせ},
@@ -99,25 +100,18 @@ QString frm紺碧帳::整える(部品& p, const QString& 文字列) {
     return 文字列;
 }
 
-bool frm紺碧帳::日付欄確定(部品& p, int 部分) {
-    return 出金日付更新(部分, 整える(p, 書式(p.Text, ゼロ文字列(p.MaxLength))));
+QString frm紺碧帳::日付を揃える(部品& p) {
+    return 整える(p, 書式(p.Text, ゼロ文字列(p.MaxLength)));
 }
 
-bool frm紺碧帳::番号欄確定(部品& p) {
-    return s.出金No確定(整える(p, 書式桁揃え(p.Text, ゼロ文字列(p.MaxLength))), 状態.選択鍵);
-}
-
-bool frm紺碧帳::コード欄確定(部品& p) {
-    const QString コード = 整える(p, 書式桁揃え(p.Text, ゼロ文字列(p.MaxLength)));
-    if (p.名前 == 欄::担当者コード.文字列()) return 担当者確定(コード);
-    if (p.名前 == 欄::部門コード.文字列()) return 部門確定(コード);
-    return セクション確定(コード);
+QString frm紺碧帳::桁を揃える(部品& p) {
+    return 整える(p, 書式桁揃え(p.Text, ゼロ文字列(p.MaxLength)));
 }
 
 bool frm紺碧帳::出張申請欄確定(部品& p) {
     // A disabled field takes nothing, and without the HR link the field is not there.
     if (!p.Enabled || !s.白樺連携フラグ) return false;
-    const QString No = 整える(p, 書式桁揃え(p.Text, ゼロ文字列(p.MaxLength)));
+    const QString No = 桁を揃える(p);
     try {
         return s.出張申請確定(No, 状態.選択鍵);
     } catch (const 実行時エラー&) {

@@ -151,47 +151,74 @@ bool frm紺碧帳::備考確定(int 備考, const QString& 文字列) {
     return true;
 }
 
+// A field with a lookup list: its button, the list window, where the focus goes on after a
+// pick, whether a double click in the field opens it, and the caller's condition (none: the
+// list keeps the condition it has).
+struct frm紺碧帳::一覧定義 {
+    部品名 欄;
+    部品名 釦;
+    const char16_t* 窓;
+    部品名 名称先;
+    bool ダブルクリック;
+    std::optional<QString> (*条件)(const 画面モデル& 画面);
+};
+
+const frm紺碧帳::一覧定義 frm紺碧帳::一覧表[] = {
+    {欄::出金No, 欄::btn_出金No, u"wnd出金No一覧", 欄::担当者名, true,
+     [](const 画面モデル& 画面) -> std::optional<QString> {
+         return 番号一覧条件(画面, u"T出金"_qs, u"出金日付"_qs, u"担当者コード"_qs);
+     }},
+    {欄::担当者コード, 欄::btn_担当者コード, u"wnd担当者一覧", 欄::担当者名, true,
+     [](const 画面モデル& 画面) -> std::optional<QString> {
+         // A typed code starts the list there and shows also those who have left.
+         const 部品& 入力 = *画面.探す(欄::担当者コード);
+         if (入力.Text.trimmed().isEmpty()) return u"M担当者.在籍区分 = '0'"_qs;
+         return u"M担当者.コード >= '"_qs + 書式桁揃え(入力.Text, ゼロ文字列(入力.MaxLength)) +
+                u"'"_qs;
+     }},
+    {欄::部門コード, 欄::btn_部門コード, u"wnd部門一覧", 欄::部門名, true,
+     [](const 画面モデル&) -> std::optional<QString> { return std::nullopt; }},
+    {欄::セクションコード, 欄::btn_セクションコード, u"wndセクション一覧", 欄::セクション名, true,
+     [](const 画面モデル&) -> std::optional<QString> { return std::nullopt; }},
+    {欄::出張申請No, 欄::btn_出張申請No, u"wnd出張申請No一覧", 欄::担当者コード, false,
+     [](const 画面モデル& 画面) -> std::optional<QString> {
+         return 番号一覧条件(画面, u"T出張申請"_qs, u"出張申請日付"_qs, u"社員コード"_qs);
+     }},
+};
+
+// Ctrl in the field, its button, and a double click where the table says so.
+void frm紺碧帳::一覧事象を結ぶ() {
+    for (const 一覧定義& d : 一覧表) {
+        部品& p = 画面(d.欄);
+        p.KeyDown = [this, &d](キーコード キー) {
+            if (キー == キーコード::Ctrl) 一覧を開く(d);
+        };
+        if (d.ダブルクリック) {
+            p.DblClick = [this, &p, &d] {
+                if (入力順序確認(p.定義.区分, -1, p.名前, p.定義.序数)) return;
+                一覧を開く(d);
+            };
+        }
+        画面(d.釦).Click = [this, &d] { 一覧を開く(d); };
+    }
+}
+
 void frm紺碧帳::一覧を開く(const QString& 項目名) {
+    for (const 一覧定義& d : 一覧表) {
+        if (項目名 == d.欄.文字列()) 一覧を開く(d);
+    }
+}
+
+void frm紺碧帳::一覧を開く(const 一覧定義& d) {
     // The condition is built before anything changes, so that a date error leaves the screen
     // as it was.
-    QString 一覧名;
-    QString 条件;
-    bool 条件あり = true;
-    const 部品名* 名称先 = nullptr;
-    if (項目名 == 欄::出金No.文字列()) {
-        一覧名 = u"wnd出金No一覧"_qs;
-        条件 = 番号一覧条件(画面, u"T出金"_qs, u"出金日付"_qs, u"担当者コード"_qs);
-        名称先 = &欄::担当者名;
-    } else if (項目名 == 欄::担当者コード.文字列()) {
-        一覧名 = u"wnd担当者一覧"_qs;
-        // A typed code starts the list there and shows also those who have left.
-        const 部品& 入力 = 画面(欄::担当者コード);
-        条件 = 入力.Text.trimmed().isEmpty()
-                   ? u"M担当者.在籍区分 = '0'"_qs
-                   : u"M担当者.コード >= '"_qs + 書式桁揃え(入力.Text, ゼロ文字列(入力.MaxLength)) +
-                         u"'"_qs;
-        名称先 = &欄::担当者名;
-    } else if (項目名 == 欄::部門コード.文字列()) {
-        一覧名 = u"wnd部門一覧"_qs;
-        条件あり = false;
-        名称先 = &欄::部門名;
-    } else if (項目名 == 欄::セクションコード.文字列()) {
-        一覧名 = u"wndセクション一覧"_qs;
-        条件あり = false;
-        名称先 = &欄::セクション名;
-    } else if (項目名 == 欄::出張申請No.文字列()) {
-        一覧名 = u"wnd出張申請No一覧"_qs;
-        条件 = 番号一覧条件(画面, u"T出張申請"_qs, u"出張申請日付"_qs, u"社員コード"_qs);
-        名称先 = &欄::担当者コード;
-    } else {
-        return;
-    }
+    const std::optional<QString> 条件 = d.条件(画面);
     s.データ.基盤().画面使用可否(画面.名前, false);
-    if (条件あり) 状態.一覧.条件 = 条件;
-    状態.一覧.設定先 = 画面.探す(項目名);
-    状態.一覧.名称先 = &画面(*名称先);
+    if (条件) 状態.一覧.条件 = *条件;
+    状態.一覧.設定先 = &画面(d.欄);
+    状態.一覧.名称先 = &画面(d.名称先);
     状態.選択鍵.reset();
-    s.データ.基盤().画面表示(一覧名, true);
+    s.データ.基盤().画面表示(QString::fromUtf16(d.窓), true);
 }
 
 void frm紺碧帳::参照元No起動() {
