@@ -1,5 +1,6 @@
 #include "dataenv/SQL方言変換.h"
 
+#include <QRegularExpression>
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -428,4 +429,14 @@ QString SQL方言変換(const QString& 文, SQL方言 方言) {
     // A stray closing bracket at the top level is copied as it is, so that a broken statement
     // still reaches the engine and fails there.
     return 変換器(元, 方言).変換();
+}
+
+QString 行数を限る(const QString& 文, int 行上限, SQL方言 方言) {
+    if (方言 == SQL方言::そのまま) return 文;
+    // A statement that ends with its own LIMIT (a TOP of the suite's dialect) keeps it.
+    static const QRegularExpression 終わりの上限(u"\\bLIMIT\\s+\\d+\\s*$"_qs,
+                                                 QRegularExpression::CaseInsensitiveOption);
+    if (終わりの上限.match(文).hasMatch()) return 文;
+    // On a line of its own, so that a closing comment of the statement cannot take it in.
+    return 文 + u"\nLIMIT "_qs + QString::number(行上限);
 }

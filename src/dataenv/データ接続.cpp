@@ -93,7 +93,7 @@ void データ接続::閉じる() {
     QSqlDatabase::removeDatabase(接続名);
 }
 
-bool データ接続::検索(記録集合& 結果, const QString& 文) {
+bool データ接続::検索(記録集合& 結果, const QString& 文, int 行上限) {
     結果.閉じる();
     if (!開いている()) {
         エラー = {u"3704"_qs, u"接続が開かれていません。"_qs};
@@ -101,6 +101,7 @@ bool データ接続::検索(記録集合& 結果, const QString& 文) {
     }
     QString 単文;
     if (!一文に(文, 単文)) return false;
+    if (行上限 > 0) 単文 = 行数を限る(単文, 行上限, 変換先);
     結果.問合せ = std::make_unique<QSqlQuery>(生接続());
     結果.問合せ->setForwardOnly(true);
     // Numbers come as their decimal text, so money is never passed through a double.
@@ -165,14 +166,26 @@ bool データ接続::制御文(const QString& 文) {
     return false;
 }
 
+bool データ接続::制御文群(const QString& 文) {
+    QSqlQuery q(生接続());
+    bool 成功 = q.exec(文);
+    while (成功 && q.nextResult()) {
+    }
+    if (q.lastError().isValid()) {
+        エラー記録(q.lastError());
+        return false;
+    }
+    return 成功;
+}
+
 bool データ接続::文実行(QSqlQuery& q, const QString& 文) {
     if (!一括) return q.exec(文);
+    if (変換先 == SQL方言::PostgreSQL) return 一括内の文(q, 文);
     if (解放待ち) 制御文(u"RELEASE SAVEPOINT konpeki_stmt"_qs);
     解放待ち = false;
     制御文(u"SAVEPOINT konpeki_stmt"_qs);
     if (q.exec(文)) {
-        // PostgreSQL hands the rows of a forward query over one by one, and any statement in
-        // between drops the rest: a query's savepoint goes with the next statement.
+        // A query's rows may still be read: its savepoint goes with the next statement.
         if (q.isSelect()) {
             解放待ち = true;
         } else {
@@ -186,6 +199,26 @@ bool データ接続::文実行(QSqlQuery& q, const QString& 文) {
     return false;
 }
 
+// A server is a round trip away, so the statement and the savepoint for the next one go as one
+// message; the savepoint it runs in was set by the message before. The statement comes first, so
+// its result and its rows are the query's, and on its own line, so that a closing comment of the
+// statement cannot swallow the commands behind it.
+bool データ接続::一括内の文(QSqlQuery& q, const QString& 文) {
+    if (q.exec(文 + u"\n;RELEASE SAVEPOINT konpeki_stmt;SAVEPOINT konpeki_stmt"_qs)) return true;
+    // The server skipped the rest of the message, and the savepoint stands for the next one.
+    制御文(u"ROLLBACK TO SAVEPOINT konpeki_stmt"_qs);
+    // A statement that stopped short or left a quote or a comment open read on into the commands
+    // behind it, and the engine's message shows them: it runs again alone, for its own message.
+    const QString 説明 = q.lastError().databaseText();
+    if (!説明.contains(u"konpeki_stmt"_qs) && !説明.contains(u"\";\""_qs)) return false;
+    if (q.exec(文)) {
+        制御文(u"RELEASE SAVEPOINT konpeki_stmt;SAVEPOINT konpeki_stmt"_qs);
+        return true;
+    }
+    制御文(u"ROLLBACK TO SAVEPOINT konpeki_stmt"_qs);
+    return false;
+}
+
 bool データ接続::一括開始() {
     if (一括 || !開いている() || 変換先 == SQL方言::そのまま) return true;
     if (変換先 == SQL方言::SQLite) {
@@ -195,9 +228,14 @@ bool データ接続::一括開始() {
     // PostgreSQL reads a counter without waiting for the batch that has changed its row, and the
     // update behind the read then writes the same number again; a history number has nothing in
     // R出金 to be checked against. So batches take one lock at their start and run one after
-    // another, as BEGIN IMMEDIATE makes them on SQLite; the lock ends with the batch.
-    一括 = 制御文(u"BEGIN"_qs);
-    if (一括) 制御文(u"SELECT pg_advisory_xact_lock(16810)"_qs);
+    // another, as BEGIN IMMEDIATE makes them on SQLite; the lock ends with the batch. The first
+    // statement's savepoint comes in the same message.
+    一括 = 制御文群(u"BEGIN;SELECT pg_advisory_xact_lock(16810);SAVEPOINT konpeki_stmt"_qs);
+    if (!一括) {
+        const 接続エラー 失敗 = エラー;
+        制御文(u"ROLLBACK"_qs);
+        エラー = 失敗;
+    }
     return 一括;
 }
 

@@ -41,8 +41,9 @@ class データ接続 {
     bool 開いている() const;
 
     // True when the statement ran; whether a row stands current is the record set's EOF.
-    // The record set is the caller's in every case.
-    bool 検索(記録集合& 結果, const QString& 文);
+    // The record set is the caller's in every case. With a row limit, the engine is asked for
+    // no more rows than that (a statement that names its own limit keeps it).
+    bool 検索(記録集合& 結果, const QString& 文, int 行上限 = 0);
     bool 実行(const QString& 文);
 
     // A run of statements that other users see whole, after one commit. Each statement still
@@ -63,6 +64,8 @@ class データ接続 {
     void エラー記録(const QSqlError& e);
     bool 文実行(QSqlQuery& q, const QString& 文);
     bool 制御文(const QString& 文);
+    bool 制御文群(const QString& 文);  // a message of several commands, each one checked
+    bool 一括内の文(QSqlQuery& q, const QString& 文);
     // The statement as the engine gets it, translated and checked to be one statement; false
     // with a syntax error otherwise.
     bool 一文に(const QString& 文, QString& 単文);
@@ -71,5 +74,5 @@ class データ接続 {
     SQL方言 変換先 = SQL方言::SQLite;
     接続エラー エラー;
     bool 一括 = false;
-    bool 解放待ち = false;  // the savepoint of a query whose rows may still be coming
+    bool 解放待ち = false;  // SQLite: the savepoint of a query whose rows may still be coming
 };

@@ -231,14 +231,15 @@ void 接続環境::接続終了() {
     if (業務DB接続中_) 業務接続.閉じる();
 }
 
-bool 接続環境::記録付検索(データ接続* 接続, 記録集合& 結果, const QString& 文, bool 履歴) {
+bool 接続環境::記録付検索(データ接続* 接続, 記録集合& 結果, const QString& 文, bool 履歴,
+                          int 行上限) {
     if (接続 == nullptr) {
         // A link routine before any slot was chosen: the caller sees a failed statement.
         結果.閉じる();
         エラー履歴書込(u"連携先が選ばれていません。"_qs + 文);
         return false;
     }
-    if (!接続->検索(結果, 文)) {
+    if (!接続->検索(結果, 文, 行上限)) {
         エラー履歴書込(接続->最終エラー().説明 + 文);
         return false;
     }
@@ -261,6 +262,15 @@ bool 接続環境::記録付実行(データ接続* 接続, const QString& 文, 
 
 bool 接続環境::業務DB検索(記録集合& 結果, const QString& 文, bool 履歴) {
     return 記録付検索(&業務接続, 結果, 文, 履歴);
+}
+
+bool 接続環境::一覧検索(記録集合& 結果, const QString& 文, int 行上限, bool 連携) {
+    データ接続* 接続 = &業務接続;
+    if (連携) {
+        連携スロット環境* L = 連携先();
+        接続 = L ? &L->業務接続 : nullptr;
+    }
+    return 記録付検索(接続, 結果, 文, false, 行上限);
 }
 
 bool 接続環境::業務DB実行(const QString& 文, bool 履歴) {

@@ -102,6 +102,9 @@ class 接続環境 {
     // As their twins of the general and configuration connections; the general side writes its
     // history rows to this run's own configuration database.
     bool 連携DB検索(記録集合& 結果, const QString& 文, bool 履歴 = false);
+    // A list window's search on the general database or the link's: the engine is asked for no
+    // more than the rows the window shows, while the history keeps the statement as written.
+    bool 一覧検索(記録集合& 結果, const QString& 文, int 行上限, bool 連携);
     bool 連携DB実行(const QString& 文, bool 履歴 = false);
     bool 連携環境DB検索(記録集合& 結果, const QString& 文);
     bool 連携環境DB実行(const QString& 文);
@@ -121,7 +124,7 @@ class 接続環境 {
     接続先 環境DB接続先(const QString& フォルダ) const;
     void 履歴書込(const QString& 摘要);
     // A statement on one of the connections, its failure in the run history.
-    bool 記録付検索(データ接続* 接続, 記録集合& 結果, const QString& 文, bool 履歴);
+    bool 記録付検索(データ接続* 接続, 記録集合& 結果, const QString& 文, bool 履歴, int 行上限 = 0);
     bool 記録付実行(データ接続* 接続, const QString& 文, bool 履歴);
     void 連携利用者別環境準備();
     void 連携定義読込(連携スロット環境& L);
