@@ -87,6 +87,37 @@ TEST_P(出金摘要一覧, 全てにすると日付のある全部の行が出�
     開く();
 }
 
+// More distinct descriptions than a search shows: the window stops at 1000 and says so, and the
+// engine is asked for no more than that, while the statement stays as the window wrote it.
+TEST_P(出金摘要一覧, 千を超える摘要は千件で止まり機関にも千件までを求める) {
+    for (int 伝票 = 0; 伝票 < 67; ++伝票) {
+        QStringList 摘要;
+        for (int 行 = 0; 行 < 最大行数; ++行) {
+            摘要 << u"摘要"_qs + QString::number(伝票 * 最大行数 + 行).rightJustified(4, u'0');
+        }
+        保存(u"20251101"_qs, 摘要);
+    }
+    int 件数 = 0;
+    bool 注意 = false;
+    QString 文, 送った文;
+    操作[u"wnd出金摘要一覧"_qs] = [&](一覧画面& x) {
+        件数 = static_cast<int>(x.一覧().項目.size());
+        注意 = x.画面(u"lab_注意"_qs).Visible;
+        文 = x.検索SQL;
+        if (GetParam()) {
+            // The server's view of the program's connection: the statement it got last.
+            const auto 行 = 木->業務DB行(
+                u"SELECT query FROM pg_stat_activity WHERE datname = current_database() AND pid <> pg_backend_pid() AND query LIKE '%先頭摘要%'"_qs);
+            if (!行.isEmpty()) 送った文 = 行.front()[0].toString();
+        }
+    };
+    開く();
+    EXPECT_EQ(件数, 1000);
+    EXPECT_TRUE(注意);
+    EXPECT_FALSE(文.contains(u"LIMIT"_qs)) << 文.toStdString();
+    if (GetParam()) EXPECT_TRUE(送った文.endsWith(u"\nLIMIT 1000"_qs)) << 送った文.toStdString();
+}
+
 TEST_P(出金摘要一覧, 検索文字列は先頭20文字の中でだけ合い否検索はその逆) {
     保存(u"20251101"_qs, {u"あいうえおかきくけこさしすせそたちつてと末尾"_qs, u"末尾の付箋"_qs,
                           u"100%果汁"_qs, u"O'Neilの本"_qs});
