@@ -5,11 +5,12 @@
 
 // One headless operator: starts the program's session on the tree of the program folder, waits
 // for the common start moment, then stores, corrects and deletes slips through the entry screen
-// model and writes a journal line per operation to standard output:
-//   N marker a1,a2,...   a new slip, marked by marker in 出金伝票備考A, with its line amounts
-//   C marker a1,a2,...   a correction, with the amounts it leaves
-//   D marker             a deletion
-//   E text               something the operator could not do
+// model and writes a journal line per operation to standard output, each store and deletion
+// with the milliseconds its button press took:
+//   N marker a1,a2,... ms   a new slip, marked by marker in 出金伝票備考A, with its line amounts
+//   C marker a1,a2,... ms   a correction, with the amounts it leaves
+//   D marker ms             a deletion
+//   E text                  something the operator could not do
 // Answers the process exit code.
 int 操作員実行(const QString& プログラムフォルダ, int 番号, int 件数, qint64 開始);
 

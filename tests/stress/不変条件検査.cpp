@@ -1,69 +1,18 @@
-#include <QFile>
 #include <QHash>
-#include <QSet>
-#include <QTextStream>
 #include <cstdio>
 
 #include "slip/起動処理.h"
 #include "text/台本プラットフォーム.h"
 #include "ストレス.h"
+#include "百分位.h"
+#include "記録読取.h"
 
 namespace {
-
-struct 期待伝票 {
-    QList<qint64> 金額;
-    bool 削除済み = false;
-};
-
-struct 集計 {
-    int 新規 = 0, 訂正 = 0, 削除 = 0, 入力失敗 = 0;
-    qint64 新規行 = 0, 訂正行 = 0, 削除行 = 0;
-    QHash<QString, 期待伝票> 伝票;
-};
 
 // A money column as whole yen, whatever the engine's text of a number looks like ("30600",
 // "30600.0000").
 qint64 円(const QString& t) {
     return qRound64(t.toDouble());
-}
-
-QList<qint64> 金額列(const QString& t) {
-    QList<qint64> 額;
-    for (const QString& x : t.split(u',', Qt::SkipEmptyParts)) 額 << x.toLongLong();
-    return 額;
-}
-
-// The operators' journals, merged: what each slip must hold now, and how many of each store ran.
-集計 記録を読む(const QStringList& ファイル, QStringList& 違反) {
-    集計 k;
-    for (const QString& 名 : ファイル) {
-        QFile f(名);
-        if (!f.open(QIODevice::ReadOnly)) {
-            違反 << u"journal "_qs + 名 + u" cannot be read"_qs;
-            continue;
-        }
-        QTextStream in(&f);
-        while (!in.atEnd()) {
-            const QStringList t = in.readLine().split(u' ');
-            if (t.size() >= 3 && t[0] == u"N") {
-                ++k.新規;
-                k.伝票[t[1]] = {金額列(t[2]), false};
-                k.新規行 += k.伝票[t[1]].金額.size();
-            } else if (t.size() >= 3 && t[0] == u"C") {
-                ++k.訂正;
-                k.訂正行 += k.伝票[t[1]].金額.size();
-                k.伝票[t[1]].金額 = 金額列(t[2]);
-            } else if (t.size() >= 2 && t[0] == u"D") {
-                ++k.削除;
-                k.削除行 += k.伝票[t[1]].金額.size();
-                k.伝票[t[1]].削除済み = true;
-            } else if (!t.isEmpty() && t[0] == u"E") {
-                ++k.入力失敗;
-                違反 << t.join(u' ');
-            }
-        }
-    }
-    return k;
 }
 
 class 検査 {
@@ -254,10 +203,12 @@ int 検査実行(const QString& プログラムフォルダ, const QStringList& 
     const qint64 再試行 =
         (番号 - k.新規) + (履歴 - (k.新規 + 2 * k.訂正 + k.削除)) + (閲覧 - (k.訂正 + k.削除));
     for (const QString& x : v.違反) std::fprintf(stderr, "violation: %s\n", qPrintable(x));
-    std::printf("%d|%lld|%lld|%lld|%lld|%.1f|%lld|%lld|%lld\n", 操作員数,
+    std::printf("%d|%lld|%lld|%lld|%lld|%.1f|%lld|%lld|%.1f|%.1f|%.1f|%.1f|%lld\n", 操作員数,
                 static_cast<long long>(k.新規), static_cast<long long>(k.訂正),
                 static_cast<long long>(k.削除), static_cast<long long>(店), 秒 > 0 ? 店 / 秒 : 0.0,
                 static_cast<long long>(再試行), static_cast<long long>(番号),
+                最近順位百分位(k.所要ミリ秒, 50), 最近順位百分位(k.所要ミリ秒, 95),
+                最近順位百分位(k.所要ミリ秒, 99), 最近順位百分位(k.所要ミリ秒, 100),
                 static_cast<long long>(v.違反.size()));
     return v.違反.isEmpty() ? 0 : 1;
 }

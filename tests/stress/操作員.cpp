@@ -1,4 +1,5 @@
 #include <QDateTime>
+#include <QElapsedTimer>
 #include <QRandomGenerator>
 #include <QThread>
 #include <cstdio>
@@ -68,6 +69,14 @@ class 操作員 {
         std::printf("%s\n", qPrintable(行));
         std::fflush(stdout);
     }
+    // Presses a button of the entry screen and answers how long the press took, in milliseconds
+    // as text: the store or the deletion it runs, not the typing before it.
+    QString 押して計る(const QString& ボタン) {
+        QElapsedTimer 計;
+        計.start();
+        f.画面.操作_クリック(c(ボタン));
+        return QString::number(static_cast<double>(計.nsecsElapsed()) / 1e6, 'f', 3);
+    }
 
     void 新規(const QString& 印) {
         伝票 d{印, {}};
@@ -94,7 +103,7 @@ class 操作員 {
         const qsizetype 待ち = 基盤.お待ち履歴.size();
         const qsizetype 知らせ = 基盤.表示済み.size();
         const bool 押せる = c(u"btn_登録"_qs).Enabled;
-        f.画面.操作_クリック(c(u"btn_登録"_qs));
+        const QString 所要 = 押して計る(u"btn_登録"_qs);
         if (基盤.お待ち履歴.size() == 待ち) {
             // The store did not run: say what the screen showed instead.
             QStringList 文言;
@@ -106,7 +115,7 @@ class 操作員 {
             f.画面.操作_クリック(c(u"btn_画面クリア"_qs));
             return;
         }
-        記す(u"N "_qs + 印 + u" "_qs + 金額列(d.金額));
+        記す(u"N "_qs + 印 + u" "_qs + 金額列(d.金額) + u" "_qs + 所要);
         生存.push_back(d);
     }
 
@@ -140,16 +149,16 @@ class 操作員 {
         f.画面.操作_フォーカス(c(u"費目区分"_qs, 0));
         打つ(c(u"出金金額"_qs, 0), QString::number(額));
         d.金額[0] = 額;
-        f.画面.操作_クリック(c(u"btn_登録"_qs));
-        記す(u"C "_qs + d.印 + u" "_qs + 金額列(d.金額));
+        const QString 所要 = 押して計る(u"btn_登録"_qs);
+        記す(u"C "_qs + d.印 + u" "_qs + 金額列(d.金額) + u" "_qs + 所要);
     }
 
     void 削除(int k) {
         if (!呼び出す(生存[k])) return;
         基盤.回答.enqueue(応答::はい);
-        f.画面.操作_クリック(c(u"btn_削除"_qs));
+        const QString 所要 = 押して計る(u"btn_削除"_qs);
         基盤.回答.clear();
-        記す(u"D "_qs + 生存[k].印);
+        記す(u"D "_qs + 生存[k].印 + u" "_qs + 所要);
         生存.erase(生存.begin() + k);
     }
 
@@ -172,7 +181,11 @@ int 操作員実行(const QString& プログラムフォルダ, int 番号, int 
         std::fprintf(stderr, "operator %d: the databases do not open\n", 番号);
         return 3;
     }
-    // All operators begin together, after each one's start-up.
+    // All operators begin together, after each one's start-up; one that is not ready by then
+    // says so, as the figures of the run no longer hold for all of them at once.
+    if (const qint64 遅れ = QDateTime::currentMSecsSinceEpoch() - 開始; 遅れ > 0)
+        std::fprintf(stderr, "operator %d: ready %lld ms after the common start\n", 番号,
+                     static_cast<long long>(遅れ));
     while (QDateTime::currentMSecsSinceEpoch() < 開始) QThread::msleep(1);
     for (int i = 0; i < 件数; ++i) 人.一件(i);
     return 0;
