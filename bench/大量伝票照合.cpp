@@ -97,3 +97,13 @@ bool 大量伝票照合(int 件数, const QString& SQLite根, const QString& Pos
     std::fflush(stdout);
     return 差 == 0;
 }
+
+void 大量伝票照合計測() {
+    const QString 根 = 大量伝票の木(1000000);
+    const QString PG根 = 大量伝票のPostgreSQL木(1000000);
+    if (根.isEmpty() || PG根.isEmpty()) {
+        std::printf("datasets: both data sets are needed (KONPEKI_TEST_PG)\n");
+        return;
+    }
+    大量伝票照合(1000000, 根, PG根);
+}

@@ -49,3 +49,5 @@ void 帳票計測();
 void 出張申請計測();
 void 出力計測();
 void 常駐メモリ計測();
+// The check of the two data sets alone.
+void 大量伝票照合計測();
