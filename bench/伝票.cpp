@@ -1,33 +1,9 @@
-#include <QDir>
 #include <QElapsedTimer>
-#include <QProcess>
 
-#include "dataenv/スキーマ適用.h"
 #include "rules/番号設定.h"
 #include "slip/出金セッション.h"
 #include "text/台本プラットフォーム.h"
 #include "計測.h"
-
-QString 大量伝票の木(int 件数) {
-    // The name changes with the generator, so that older data is made again.
-    const QString 根 = QStringLiteral(KONPEKI_BENCH_DATA) + u"/slips3-"_qs + QString::number(件数);
-    if (QFile::exists(根 + u"/data/ready"_qs)) return 根;
-    QDir(根).removeRecursively();
-    ツリー作成指定 指定;
-    指定.根 = 根;
-    指定.スキーマフォルダ = QStringLiteral(KONPEKI_SCHEMA_DIR);
-    QString エラー;
-    if (!ツリー作成(指定, エラー)) return {};
-    std::printf("generating %d slips of 5 lines ...\n", 件数);
-    std::fflush(stdout);
-    const int rc =
-        QProcess::execute(QStringLiteral(KONPEKI_SOURCE_DIR) + u"/scripts/make-slip-data"_qs,
-                          {根 + u"/data/gnrdb.db"_qs, QString::number(件数)});
-    if (rc != 0) return {};
-    QFile f(根 + u"/data/ready"_qs);
-    f.open(QIODevice::WriteOnly);
-    return 根;
-}
 
 namespace {
 

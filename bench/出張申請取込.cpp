@@ -1,7 +1,7 @@
 #include <QElapsedTimer>
 #include <QTextStream>
 
-#include "dataenv/スキーマ適用.h"
+#include "dataenv/データ接続.h"
 #include "screen/frm紺碧帳.h"
 #include "slip/起動処理.h"
 #include "text/台本プラットフォーム.h"
@@ -37,20 +37,15 @@ bool 十五行の申請を置く(const QString& 人事根) {
 // The take-over of a trip application with 15 expense rows, from the trip list's pick (its key
 // left as the list's answer and the field left) to the lines drawn; HR database in SQLite.
 void 出張申請計測() {
-    QTemporaryDir 一時;
-    ツリー作成指定 指定;
-    指定.根 = 一時.path();
-    指定.スキーマフォルダ = QStringLiteral(KONPEKI_SCHEMA_DIR);
-    指定.人事根 = 一時.path() + u"/白樺"_qs;
-    QString エラー;
-    if (!ツリー作成(指定, エラー) || !十五行の申請を置く(指定.人事根)) {
-        QTextStream(stderr) << "trip: " << エラー << "\n";
+    計測用ツリー 木({}, true);
+    if (!木.作成済み || !十五行の申請を置く(木.根() + u"/白樺"_qs)) {
+        QTextStream(stderr) << "trip: the tree with the HR system could not be made\n";
         return;
     }
     台本プラットフォーム 基盤;
     基盤.時刻 = QDateTime(QDate(2026, 11, 23), QTime(10, 0, 0));
     出金セッション s(基盤);
-    s.データ.接続().自身のフォルダ設定(一時.path() + u"/prgbin"_qs);
+    s.データ.接続().自身のフォルダ設定(木.根() + u"/prgbin"_qs);
     画面なし 画面;
     紺碧帳起動 起動(s, 画面);
     if (!起動.データベース開始() || !起動.ユーザ情報初期化()) return;

@@ -1,4 +1,6 @@
 #include <QElapsedTimer>
+#include <optional>
+#include <utility>
 
 #include "common/出金入力.h"
 #include "common/試験用ツリー.h"
@@ -9,16 +11,17 @@
 namespace {
 
 // The store of a new 15-line slip and of its correction within the sequence; the typing and the
-// load before each are not timed.
-void 登録計測(const QString& PostgreSQL接続情報, const char* 新規名, const char* 修正名) {
+// load before each are not timed. The two medians; none when the tree could not be opened.
+std::optional<std::pair<double, double>> 登録計測(const QString& PostgreSQL接続情報,
+                                                  const char* 新規名, const char* 修正名) {
     計測用ツリー 木(PostgreSQL接続情報);
-    if (!木.作成済み) return;
+    if (!木.作成済み) return {};
     台本プラットフォーム 基盤;
     出金セッション s(基盤);
     画面なし 画面;
     紺碧帳起動 起動(s, 画面);
     s.データ.接続().自身のフォルダ設定(木.根() + u"/prgbin"_qs);
-    if (!起動.データベース開始() || !起動.ユーザ情報初期化()) return;
+    if (!起動.データベース開始() || !起動.ユーザ情報初期化()) return {};
     std::vector<double> 新規, 修正;
     for (int i = 0; i < 200; ++i) {
         s.出金情報初期化();
@@ -39,9 +42,10 @@ void 登録計測(const QString& PostgreSQL接続情報, const char* 新規名, 
         s.修正登録処理();
         修正.push_back(t.nsecsElapsed() / 1e6);
     }
-    結果表示(新規名, 新規, "ms");
-    結果表示(修正名, 修正, "ms");
+    const double 新規値 = 結果表示(新規名, 新規, "ms");
+    const double 修正値 = 結果表示(修正名, 修正, "ms");
     起動.終了処理();
+    return std::pair{新規値, 修正値};
 }
 
 }  // namespace
@@ -49,9 +53,14 @@ void 登録計測(const QString& PostgreSQL接続情報, const char* 新規名, 
 // On SQLite, and on the PostgreSQL server of KONPEKI_TEST_PG when one is given (run it with the
 // server's durable defaults: scripts/pg-server start DIR PORT durable).
 void 登録計測() {
-    登録計測(QString(), "store of a new 15-line slip (SQLite)", "store of its correction (SQLite)");
+    const auto 甲 = 登録計測(QString(), "store of a new 15-line slip (SQLite)",
+                             "store of its correction (SQLite)");
     if (!試験用PostgreSQL::利用可能()) return;
     試験用PostgreSQL 庫;
-    登録計測(庫.接続情報(), "store of a new 15-line slip (PostgreSQL)",
-             "store of its correction (PostgreSQL)");
+    const auto 乙 = 登録計測(庫.接続情報(), "store of a new 15-line slip (PostgreSQL)",
+                             "store of its correction (PostgreSQL)");
+    if (!甲 || !乙) return;
+    std::printf("%-44s %9.2f x\n", "new-slip store, PostgreSQL/SQLite", 乙->first / 甲->first);
+    std::printf("%-44s %9.2f x\n", "correction store, PostgreSQL/SQLite", 乙->second / 甲->second);
+    std::fflush(stdout);
 }

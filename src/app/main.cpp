@@ -6,38 +6,23 @@
 #include <cstdlib>
 
 #include "dataenv/ファイル操作.h"
-#include "lists/一覧画面集.h"
-#include "screen/frm紺碧帳.h"
-#include "screen/msg暗証番号確認.h"
 #include "slip/二重起動.h"
-#include "slip/起動処理.h"
-#include "ui/Qtプラットフォーム.h"
 #include "ui/Qt起動準備.h"
-#include "ui/入力画面ウィンドウ.h"
+#include "ui/紺碧帳一式.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
     Qt起動準備(app);
 
-    Qtプラットフォーム 基盤;
-    出金セッション セッション(基盤);
-    セッション.データ.接続().自身のフォルダ設定(QCoreApplication::applicationDirPath());
-
-    frm紺碧帳 モデル(セッション);
-    msg暗証番号確認 暗証確認(セッション.データ);
-    基盤.画面登録(暗証確認.画面.名前, 暗証確認.画面);
-    基盤.画面登録(モデル.印刷確認.画面.名前, モデル.印刷確認.画面);
-    基盤.画面登録(モデル.お待ち.画面.名前, モデル.お待ち.画面);
-    一覧画面集 一覧群(セッション, モデル.画面);
-    for (const auto& w : 一覧群.全部()) 基盤.画面登録(w->画面.名前, w->画面);
-    入力画面ウィンドウ 画面(モデル);
-    紺碧帳起動 起動(セッション, 画面);
+    紺碧帳一式 一式(QCoreApplication::applicationDirPath());
+    出金セッション& セッション = 一式.セッション;
+    入力画面ウィンドウ& 画面 = 一式.画面;
+    紺碧帳起動& 起動 = 一式.起動;
     // Every run, linked or by hand, takes its mark here and holds it to the end.
     二重起動検査 検査(QDir::tempPath(), QCoreApplication::applicationDirPath(), 端末利用者名取得());
     起動.他に起動中 = [&] { return 検査.他に起動中(); };
-    画面.伝票読込 = [&] { 起動.伝票読込(); };
     // Once the quit is decided the process ends at once: no further event runs.
-    モデル.停止 = [&] {
+    一式.モデル.停止 = [&] {
         起動.停止処理();
         std::fflush(stdout);
         std::exit(0);

@@ -7,15 +7,11 @@
 
 #include "dataenv/スキーマ適用.h"
 
-namespace {
-
-接続先 管理接続先() {
+接続先 試験用PostgreSQL::管理接続先() {
     接続先 先 = PostgreSQL接続先(qEnvironmentVariable("KONPEKI_TEST_PG"));
     if (先.データベース名.isEmpty()) 先.データベース名 = u"postgres"_qs;
     return 先;
 }
-
-}  // namespace
 
 bool 試験用PostgreSQL::利用可能() {
     return !qEnvironmentVariable("KONPEKI_TEST_PG").isEmpty();

@@ -13,6 +13,8 @@
 class 試験用PostgreSQL {
   public:
     static bool 利用可能();
+    // The server's own database "postgres", where databases are made and dropped.
+    static 接続先 管理接続先();
     試験用PostgreSQL();
     ~試験用PostgreSQL();
     QString 接続情報() const { return 情報; }
