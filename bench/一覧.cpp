@@ -27,15 +27,16 @@ struct 一覧結果 {
 // Per list in the order measured, per engine (SQLite, PostgreSQL).
 using 結果表 = std::vector<std::pair<std::string, std::array<std::optional<一覧結果>, 2>>>;
 
-// The same statement read raw in the engine's own dialect, every column of up to 1000 rows as
-// text.
-double 直接(データ接続& 接続, const QString& 文, int& 件数) {
+// The same statement read raw as the engine gets it, in its own dialect and with the window's
+// limit of rows, every column of up to 1000 rows as text.
+double 直接(データ接続& 接続, const QString& 文, int 上限, int& 件数) {
     QElapsedTimer t;
     t.start();
     QSqlQuery q(接続.生接続());
     q.setForwardOnly(true);
     件数 = 0;
-    if (q.exec(SQL方言変換(文, 接続.方言()))) {
+    const QString 訳 = SQL方言変換(文, 接続.方言());
+    if (q.exec(上限 > 0 ? 行数を限る(訳, 上限, 接続.方言()) : 訳)) {
         const int 列数 = q.record().count();
         qsizetype 長さ = 0;
         while (件数 < 1000 && q.next()) {
@@ -60,7 +61,7 @@ double 直接(データ接続& 接続, const QString& 文, int& 件数) {
         窓.画面.操作_クリック(窓.画面(釦));
         画面.push_back(ミリ秒(t));
         r.行数 = static_cast<int>(窓.一覧().項目.size());
-        生.push_back(直接(接続, 窓.検索SQL, r.生行数));
+        生.push_back(直接(接続, 窓.検索SQL, 窓.表示上限(), r.生行数));
         比.push_back(画面.back() / 生.back());
     }
     r.回数 = 画面.size();

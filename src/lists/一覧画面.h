@@ -60,6 +60,8 @@ class 一覧画面 {
     virtual void 条件クリア();
     void 列見出しクリック(int 列番号);
     部品& 一覧();
+    // How many rows one search shows (0: all).
+    int 表示上限() const { return 行上限(); }
 
   protected:
     // What each window brings: its statement for the current search, its list view, how many
