@@ -14,14 +14,18 @@ namespace {
 void 記憶量表示(const char* 場面) {
     QFile f(u"/proc/self/status"_qs);
     if (!f.open(QIODevice::ReadOnly | QIODevice::Text)) return;
-    double 常駐 = 0, 最大 = 0;
+    double 常駐 = 0, 最大 = 0, 匿名 = 0, 写像 = 0;
     for (const QByteArray& 行 : f.readAll().split('\n')) {
         const QList<QByteArray> 語 = 行.simplified().split(' ');
         if (語.size() < 2) continue;
         if (語[0] == "VmRSS:") 常駐 = 語[1].toDouble() / 1024;
         if (語[0] == "VmHWM:") 最大 = 語[1].toDouble() / 1024;
+        if (語[0] == "RssAnon:") 匿名 = 語[1].toDouble() / 1024;
+        if (語[0] == "RssFile:") 写像 = 語[1].toDouble() / 1024;
     }
-    std::printf("%-44s VmRSS %6.1f MB  VmHWM %6.1f MB\n", 場面, 常駐, 最大);
+    // Mapped files are mostly the shared libraries and the fonts, shared with other programs.
+    std::printf("%-44s VmRSS %6.1f MB  VmHWM %6.1f MB  (heap and stacks %.1f MB, files %.1f MB)\n",
+                場面, 常駐, 最大, 匿名, 写像);
     std::fflush(stdout);
 }
 

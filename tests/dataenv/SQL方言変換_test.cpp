@@ -125,15 +125,15 @@ TEST(SQL方言変換, 壊れた文は壊れたまま渡る) {
     EXPECT_EQ(変換(文, SQL方言::SQLite), 文);
 }
 
-TEST(行数を限る, 上限は自分の行に付き末尾に上限のある文と翻訳しない機関ではそのまま) {
+TEST(行数を限る, 上限はPostgreSQLにだけ自分の行に付き末尾に上限のある文はそのまま) {
     EXPECT_EQ(行数を限る(u"SELECT a FROM t ORDER BY a -- 注"_qs, 1000, SQL方言::PostgreSQL),
               u"SELECT a FROM t ORDER BY a -- 注\nLIMIT 1000"_qs);
-    EXPECT_EQ(行数を限る(u"SELECT a FROM t"_qs, 5, SQL方言::SQLite),
-              u"SELECT a FROM t\nLIMIT 5"_qs);
-    const QString 自前 = SQL方言変換(u"SELECT TOP 1000 a FROM t ORDER BY a"_qs, SQL方言::SQLite);
-    EXPECT_EQ(行数を限る(自前, 1000, SQL方言::SQLite), 自前);
+    const QString 自前 =
+        SQL方言変換(u"SELECT TOP 1000 a FROM t ORDER BY a"_qs, SQL方言::PostgreSQL);
+    EXPECT_EQ(行数を限る(自前, 1000, SQL方言::PostgreSQL), 自前);
     EXPECT_EQ(行数を限る(u"SELECT a FROM t WHERE b IN (SELECT b FROM u LIMIT 3)"_qs, 9,
                          SQL方言::PostgreSQL),
               u"SELECT a FROM t WHERE b IN (SELECT b FROM u LIMIT 3)\nLIMIT 9"_qs);
+    EXPECT_EQ(行数を限る(u"SELECT a FROM t"_qs, 5, SQL方言::SQLite), u"SELECT a FROM t"_qs);
     EXPECT_EQ(行数を限る(u"SELECT a FROM t"_qs, 5, SQL方言::そのまま), u"SELECT a FROM t"_qs);
 }
