@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "dataenv/スキーマ適用.h"
+#include "slip/出金セッション.h"
 #include "計測.h"
 
 double 中央値(std::vector<double> 標本) {
@@ -17,6 +18,12 @@ double 結果表示(const char* 名前, std::vector<double> 標本, const char* 
                 標本[標本.size() / 2], 単位, 標本.front(), 標本.back(), 標本.size());
     std::fflush(stdout);
     return 標本[標本.size() / 2];
+}
+
+bool 会社を開く(出金セッション& s, const QString& 根) {
+    s.データ.接続().自身のフォルダ設定(根 + u"/prgbin"_qs);
+    return s.データ.接続().SYB_OPEN() && s.データ.接続().DB_OPEN() &&
+           s.データ.会社設定().基本項目読込();
 }
 
 計測用ツリー::計測用ツリー(const QString& PostgreSQL接続情報, bool 人事あり,

@@ -82,10 +82,7 @@ void 伝票の一覧(const QString& 根, int 機関, 結果表& 表) {
     台本プラットフォーム 基盤;
     基盤.時刻 = QDateTime(QDate(2024, 2, 15), QTime(10, 0, 0));
     出金セッション s(基盤);
-    s.データ.接続().自身のフォルダ設定(根 + u"/prgbin"_qs);
-    if (!s.データ.接続().SYB_OPEN() || !s.データ.接続().DB_OPEN() ||
-        !s.データ.会社設定().基本項目読込())
-        return;
+    if (!会社を開く(s, 根)) return;
     {
         frm紺碧帳 f(s);
         一覧画面集 集(s, f.画面);
@@ -123,10 +120,7 @@ void 人事の一覧(const QString& PG, const QString& 人事PG, int 機関, 結
     台本プラットフォーム 基盤;
     基盤.時刻 = QDateTime(QDate(2026, 11, 23), QTime(10, 0, 0));
     出金セッション s(基盤);
-    s.データ.接続().自身のフォルダ設定(木.根() + u"/prgbin"_qs);
-    if (!s.データ.接続().SYB_OPEN() || !s.データ.接続().DB_OPEN() ||
-        !s.データ.会社設定().基本項目読込())
-        return;
+    if (!会社を開く(s, 木.根())) return;
     s.白樺連携フラグ = s.データ.人事連携選択(u"白樺"_qs) && s.データ.人事連携開始();
     if (!s.白樺連携フラグ) return;
     {

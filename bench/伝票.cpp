@@ -12,10 +12,7 @@ void 計測一式(int 件数) {
     if (根.isEmpty()) return;
     台本プラットフォーム 基盤;
     出金セッション s(基盤);
-    s.データ.接続().自身のフォルダ設定(根 + u"/prgbin"_qs);
-    if (!s.データ.接続().SYB_OPEN() || !s.データ.接続().DB_OPEN() ||
-        !s.データ.会社設定().基本項目読込())
-        return;
+    if (!会社を開く(s, 根)) return;
     s.見出し.事業所コード = u"000"_qs;
 
     // The 15-line slip stands on the middle day.

@@ -38,6 +38,11 @@ QString 大量伝票のデータベース名(int 件数);
 // Prints whether the two data sets hold the same rows; true when they do.
 bool 大量伝票照合(int 件数, const QString& SQLite根, const QString& PostgreSQL根);
 
+class 出金セッション;
+// Opens the configuration and general databases of the tree at 根 and reads the company, as the
+// program does at its start; false when one of them fails.
+bool 会社を開く(出金セッション& s, const QString& 根);
+
 void 起動時間計測();
 void 一覧計測();
 void データ層計測();
