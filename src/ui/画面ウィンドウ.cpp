@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QStyleOptionHeader>
 #include <QTabBar>
 #include <QTreeWidget>
 #include <QValidator>
@@ -23,6 +24,26 @@ namespace {
 constexpr int 画素(int twips) {
     return twips / 15;
 }  // 15 twips to a pixel at 96 dpi
+
+// Qt sizes every header section with a bold font, for a highlight our lists never show; that
+// alone loads the bold face of the CJK font, megabytes of a font drawn nowhere.
+class 一覧見出し : public QHeaderView {
+  public:
+    // As a tree view makes its own header.
+    explicit 一覧見出し(QWidget* 親) : QHeaderView(Qt::Horizontal, 親) {
+        setSectionsMovable(true);
+        setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    }
+
+  protected:
+    QSize sectionSizeFromContents(int 列) const override {
+        QStyleOptionHeader 選択肢;
+        initStyleOption(&選択肢);
+        選択肢.section = 列;
+        if (model()) 選択肢.text = model()->headerData(列, orientation()).toString();
+        return style()->sizeFromContents(QStyle::CT_HeaderSection, &選択肢, QSize(), this);
+    }
+};
 
 Qt::Alignment 寄せ(const 一覧列& 列) {
     return (列.右寄せ ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter;
@@ -71,6 +92,7 @@ QWidget* 作成(部品& p, QWidget* 親) {
         case 部品種別::ListView: {
             // Rows are drawn in the model's order; the model sorts, never the widget.
             auto* t = new QTreeWidget(親);
+            t->setHeader(new 一覧見出し(t));
             t->setRootIsDecorated(false);
             t->setUniformRowHeights(true);
             t->setSortingEnabled(false);
