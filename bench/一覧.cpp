@@ -61,7 +61,7 @@ double 直接(データ接続& 接続, const QString& 文, int 上限, int& 件�
         窓.画面.操作_クリック(窓.画面(釦));
         画面.push_back(ミリ秒(t));
         r.行数 = static_cast<int>(窓.一覧().項目.size());
-        生.push_back(直接(接続, 窓.検索SQL, 窓.表示上限(), r.生行数));
+        生.push_back(直接(接続, 窓.検索SQL, 窓.行上限(), r.生行数));
         比.push_back(画面.back() / 生.back());
     }
     r.回数 = 画面.size();

@@ -170,14 +170,17 @@ bool 接続環境::連携DB_OPEN() {
     return L->業務DB接続中;
 }
 
-bool 接続環境::連携DB検索(記録集合& 結果, const QString& 文, bool 履歴) {
+データ接続* 接続環境::連携業務接続() {
     連携スロット環境* L = 連携先();
-    return 記録付検索(L ? &L->業務接続 : nullptr, 結果, 文, 履歴);
+    return L ? &L->業務接続 : nullptr;
+}
+
+bool 接続環境::連携DB検索(記録集合& 結果, const QString& 文, bool 履歴) {
+    return 記録付検索(連携業務接続(), 結果, 文, 履歴);
 }
 
 bool 接続環境::連携DB実行(const QString& 文, bool 履歴) {
-    連携スロット環境* L = 連携先();
-    return 記録付実行(L ? &L->業務接続 : nullptr, 文, 履歴);
+    return 記録付実行(連携業務接続(), 文, 履歴);
 }
 
 bool 接続環境::連携環境DB検索(記録集合& 結果, const QString& 文) {

@@ -265,12 +265,7 @@ bool 接続環境::業務DB検索(記録集合& 結果, const QString& 文, bool
 }
 
 bool 接続環境::一覧検索(記録集合& 結果, const QString& 文, int 行上限, bool 連携) {
-    データ接続* 接続 = &業務接続;
-    if (連携) {
-        連携スロット環境* L = 連携先();
-        接続 = L ? &L->業務接続 : nullptr;
-    }
-    return 記録付検索(接続, 結果, 文, false, 行上限);
+    return 記録付検索(連携 ? 連携業務接続() : &業務接続, 結果, 文, false, 行上限);
 }
 
 bool 接続環境::業務DB実行(const QString& 文, bool 履歴) {

@@ -126,6 +126,7 @@ class 接続環境 {
     // A statement on one of the connections, its failure in the run history.
     bool 記録付検索(データ接続* 接続, 記録集合& 結果, const QString& 文, bool 履歴, int 行上限 = 0);
     bool 記録付実行(データ接続* 接続, const QString& 文, bool 履歴);
+    データ接続* 連携業務接続();  // the general connection of the slot in use, if any
     void 連携利用者別環境準備();
     void 連携定義読込(連携スロット環境& L);
 

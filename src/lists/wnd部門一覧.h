@@ -13,10 +13,10 @@ class wnd部門一覧 : public 一覧画面 {
 
     void 読込() override;
     void 条件クリア() override;
+    int 行上限() const override { return 0; }
 
   protected:
     QString 検索文作成() override;
-    int 行上限() const override { return 0; }
     QString 登録画面題() const override { return 対象 + u"登録"_qs; }
 
   private:

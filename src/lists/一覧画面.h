@@ -61,13 +61,12 @@ class 一覧画面 {
     void 列見出しクリック(int 列番号);
     部品& 一覧();
     // How many rows one search shows (0: all).
-    int 表示上限() const { return 行上限(); }
+    virtual int 行上限() const { return 1000; }
 
   protected:
-    // What each window brings: its statement for the current search, its list view, how many
-    // rows one search shows (0: all), and how a row becomes a list item.
+    // What each window brings: its statement for the current search, its list view, and how a
+    // row becomes a list item.
     virtual QString 検索文作成() = 0;
-    virtual int 行上限() const { return 1000; }
     virtual void 行を加える(記録集合& rs, int 件数);
     // The number and description lists hand the row's key back and are always unloaded; the
     // master lists are hidden unless the main screen is that master's own registration.

@@ -1,25 +1,19 @@
 #include <gtest/gtest.h>
 
-#include "common/エンジン別試験.h"
 #include "common/文字列表示.h"
+#include "dataenv/試験表試験.h"
 
 namespace {
 
 // Statements of a store run as one batch with a savepoint around each. Each one still succeeds
 // or fails alone, with the message it gives outside a batch, and a query hands over all its rows.
-class 一括実行 : public エンジン別試験 {
+class 一括実行 : public 試験表試験 {
   protected:
+    一括実行() : 試験表試験(u"値 varchar(20) PRIMARY KEY") {}
     void SetUp() override {
-        エンジン別試験::SetUp();
+        試験表試験::SetUp();
         if (IsSkipped() || HasFatalFailure()) return;
-        ASSERT_TRUE(木->業務DB実行(u"CREATE TABLE 試験表 (値 varchar(20) PRIMARY KEY)"_qs));
         開く();
-    }
-    QStringList 試験表() {
-        QStringList r;
-        for (const auto& 行 : 木->業務DB行(u"SELECT 値 FROM 試験表"_qs)) r << 行[0].toString();
-        r.sort();
-        return r;
     }
     bool 実行(const QString& 文) { return 環境.接続().業務DB実行(文); }
     const 接続エラー& エラー() { return 環境.接続().業務DB().最終エラー(); }

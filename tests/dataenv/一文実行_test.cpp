@@ -1,25 +1,19 @@
 #include <gtest/gtest.h>
 
-#include "common/エンジン別試験.h"
 #include "common/文字列表示.h"
+#include "dataenv/試験表試験.h"
 
 namespace {
 
 // Every call on a connection runs one statement: a text that goes on after its statement's end
 // fails as a syntax error of the engine, is logged as any failed statement, and runs nothing.
-class 一文実行 : public エンジン別試験 {
+class 一文実行 : public 試験表試験 {
   protected:
+    一文実行() : 試験表試験(u"値 text") {}
     void SetUp() override {
-        エンジン別試験::SetUp();
+        試験表試験::SetUp();
         if (IsSkipped() || HasFatalFailure()) return;
-        ASSERT_TRUE(木->業務DB実行(u"CREATE TABLE 試験表 (値 text)"_qs));
         ASSERT_TRUE(木->業務DB実行(u"INSERT INTO 試験表 (値) VALUES ('残る')"_qs));
-    }
-    QStringList 試験表() {
-        QStringList r;
-        for (const auto& 行 : 木->業務DB行(u"SELECT 値 FROM 試験表"_qs)) r << 行[0].toString();
-        r.sort();
-        return r;
     }
     // The text is refused as the engine refuses a broken statement, and nothing ran.
     void 断られる(const QString& 文) {
