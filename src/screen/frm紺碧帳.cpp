@@ -23,6 +23,7 @@ QString 金額表示(const 金額& 額) {
 frm紺碧帳::frm紺碧帳(出金セッション& セッション) : s(セッション) {
     画面.作る(部品定義表);
     事象を結ぶ();
+    画面.KeyPreview = [this](キーコード キー) { return 補助窓を開く(キー); };
     // A run-time error (an overflow, a date beyond the calendar) ends the operation the event
     // started, never the program: the operator is told, and the screen listens again.
     画面.異常時 = [this](const std::exception& e) {

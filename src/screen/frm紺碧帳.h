@@ -104,6 +104,9 @@ class frm紺碧帳 {
     void 題クリック(const 部品& 題);
     // manualpanel: the program's manual, named by the program ID, in the manual folder.
     void マニュアル表示();
+    // F8 the history of the stored slip on the screen, F9 the slip search, F10 the payee
+    // register. True when the key is one of them.
+    bool 補助窓を開く(キーコード キー);
 
     // Header fields.
     bool 出金日付更新(int 部分, const QString& 文字列);  // 0 year, 1 month, 2 day
@@ -134,6 +137,8 @@ class frm紺碧帳 {
     static const 確定定義 確定一覧[];
     struct 一覧定義;
     static const 一覧定義 一覧表[];
+    struct 補助窓定義;
+    static const 補助窓定義 補助窓表[];
     void 一覧事象を結ぶ();
     void 一覧を開く(const 一覧定義& 定義);
     void 事象を結ぶ();

@@ -25,4 +25,6 @@ struct 画面状態 {
     // The answer of a number or description list: the key of the picked row, until the field
     // it was picked for takes it. None after a back, a close, or a list that hands no key.
     std::optional<QString> 選択鍵;
+    // The 19-character key of the stored slip a history window is opened on.
+    QString 履歴鍵;
 };

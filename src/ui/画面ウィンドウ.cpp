@@ -119,14 +119,20 @@ QWidget* 作成(部品& p, QWidget* 親) {
     return nullptr;
 }
 
-// The keys the model knows: Ctrl anywhere, Esc for the window, and in a list view Enter and the
-// keys that move its selection. なし for every other key.
+// The keys the model knows: Ctrl anywhere, Esc and the function keys for the window, and in a
+// list view Enter and the keys that move its selection. なし for every other key.
 キーコード 仮想キー(int キー, 部品種別 種別) {
     switch (キー) {
         case Qt::Key_Control:
             return キーコード::Ctrl;
         case Qt::Key_Escape:
             return キーコード::Esc;
+        case Qt::Key_F8:
+            return キーコード::F8;
+        case Qt::Key_F9:
+            return キーコード::F9;
+        case Qt::Key_F10:
+            return キーコード::F10;
         default:
             break;
     }
