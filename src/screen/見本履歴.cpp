@@ -69,9 +69,7 @@ class 事務所の一日 {
     // Types one slip and stores it; answers its number.
     QString 伝票(const QDate& 日, const QString& 担当者, int 行数, QRandomGenerator& 乱) {
         基盤.時刻 = QDateTime(日, QTime(9 + 乱.bounded(9), 乱.bounded(60), 乱.bounded(60)));
-        打つ(c(u"出金日付年"_qs), QString::number(日.year()));
-        打つ(c(u"出金日付月"_qs), QString::number(日.month()));
-        打つ(c(u"出金日付日"_qs), QString::number(日.day()));
+        日付を打つ(日);
         打つ(c(u"担当者コード"_qs), 担当者);
         for (int i = 0; i < 行数; ++i) 一行(i, 乱, 日 >= QDate(2019, 10, 1));
         if (乱.bounded(4) == 0) {
@@ -88,6 +86,25 @@ class 事務所の一日 {
         if (s.新規情報フラグ) return;
         f.画面.操作_フォーカス(c(u"費目区分"_qs, 0));
         打つ(c(u"出金金額"_qs, 0), QString::number(100 * (1 + 乱.bounded(200))));
+        f.画面.操作_クリック(c(u"btn_登録"_qs));
+    }
+
+    // Loads a stored slip and deletes it, answering yes to the question.
+    void 削除(const QString& No) {
+        打つ(c(u"出金No"_qs), No);
+        if (s.新規情報フラグ) return;
+        基盤.回答.enqueue(応答::はい);
+        f.画面.操作_クリック(c(u"btn_削除"_qs));
+    }
+
+    // Loads a slip of the previous fiscal year and stores it again dated into the new one:
+    // the correction moves it to the new year's number sequence.
+    void 年度を越えて移す(const QString& No, const QDate& 元の日, const QDate& 新しい日) {
+        基盤.時刻 = QDateTime(新しい日, QTime(17, 30, 0));
+        日付を打つ(元の日);
+        打つ(c(u"出金No"_qs), No);
+        if (s.新規情報フラグ) return;
+        日付を打つ(新しい日);
         f.画面.操作_クリック(c(u"btn_登録"_qs));
     }
 
@@ -117,6 +134,11 @@ class 事務所の一日 {
         return No;
     }
     部品& c(const QString& 名前, int 行 = -1) { return f.画面(名前, 行); }
+    void 日付を打つ(const QDate& 日) {
+        打つ(c(u"出金日付年"_qs), QString::number(日.year()));
+        打つ(c(u"出金日付月"_qs), QString::number(日.month()));
+        打つ(c(u"出金日付日"_qs), QString::number(日.day()));
+    }
     // Clicks into the field, types over it and leaves it for the next field.
     void 打つ(部品& 欄, const QString& 文字列) {
         f.画面.操作_入力(欄, 文字列);
@@ -183,6 +205,12 @@ int 見本履歴作成(const QString& プログラムフォルダ, const QDate& 
         人.push_back(一日.back()->在籍者());
     }
     int 保存 = 0;
+    // Head office's last slip of the previous fiscal year, moved into the new year by a
+    // correction within the first two months, while the previous year is still open.
+    const QDate 新年度(年度, 4, 1);
+    QString 前年度のNo;
+    QDate 前年度の日;
+    bool 移した = false;
     for (int i = 0; i < 日付.size(); ++i) {
         // Head office types half of the slips, each branch a quarter.
         const int k = i % 4 == 1 ? 1 : i % 4 == 3 ? 2 : 0;
@@ -193,6 +221,16 @@ int 見本履歴作成(const QString& プログラムフォルダ, const QDate& 
         ++保存;
         if (i % 37 == 5) 一日[k]->日程を結ぶ(No, 担当者, 日付[i]);
         if (i % 9 == 0) 一日[k]->訂正(No, 乱);
+        // A few slips are deleted, so that the history holds every kind of state.
+        const bool 消す = i % 13 == 6;
+        if (消す) 一日[k]->削除(No);
+        if (k != 0) continue;
+        if (日付[i] < 新年度) {
+            if (!消す) 前年度のNo = No, 前年度の日 = 日付[i];
+        } else if (!移した && !前年度のNo.isEmpty() && 日付[i] < 新年度.addMonths(2)) {
+            一日[0]->年度を越えて移す(前年度のNo, 前年度の日, 日付[i]);
+            移した = true;
+        }
     }
     一日.clear();
     事務所を替える(プログラムフォルダ, u"000"_qs);
