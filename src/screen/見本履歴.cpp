@@ -219,14 +219,16 @@ int 見本履歴作成(const QString& プログラムフォルダ, const QDate& 
         const QString 担当者 = 人[k][乱.bounded(人[k].size())];
         const QString No = 一日[k]->伝票(日付[i], 担当者, 行数, 乱);
         ++保存;
-        if (i % 37 == 5) 一日[k]->日程を結ぶ(No, 担当者, 日付[i]);
+        const bool 結ぶ = i % 37 == 5;
+        if (結ぶ) 一日[k]->日程を結ぶ(No, 担当者, 日付[i]);
         if (i % 9 == 0) 一日[k]->訂正(No, 乱);
         // A few slips are deleted, so that the history holds every kind of state.
         const bool 消す = i % 13 == 6;
         if (消す) 一日[k]->削除(No);
         if (k != 0) continue;
         if (日付[i] < 新年度) {
-            if (!消す) 前年度のNo = No, 前年度の日 = 日付[i];
+            // A slip linked to the schedule may not leave its fiscal year.
+            if (!消す && !結ぶ) 前年度のNo = No, 前年度の日 = 日付[i];
         } else if (!移した && !前年度のNo.isEmpty() && 日付[i] < 新年度.addMonths(2)) {
             一日[0]->年度を越えて移す(前年度のNo, 前年度の日, 日付[i]);
             移した = true;
