@@ -17,6 +17,18 @@ class 出金履歴試験 : public 両エンジン入力画面 {
         打ってTab(c(u"出金日付月"_qs), 月);
         打ってTab(c(u"出金日付日"_qs), 日);
     }
+    // A slip of two lines whose line of that index has a description with a quote, stored and
+    // loaded again; answers its number.
+    QString 引用符の摘要で保存して呼ぶ(int 行, const QString& 摘要) {
+        const QString No = c(u"出金No"_qs).Text;
+        行を打つ(u"3"_qs, 2);
+        f->画面.操作_フォーカス(c(u"摘要"_qs, 行));
+        打ってTab(c(u"摘要"_qs, 行), 摘要);
+        f->画面.操作_クリック(c(u"btn_登録"_qs));
+        呼ぶ(No);
+        EXPECT_EQ(s.行[行].摘要, 摘要);
+        return No;
+    }
     伝票鍵 鍵(const QString& 基準日付, const QString& No) const {
         return {u"000"_qs, 基準日付, No};
     }
