@@ -1,5 +1,5 @@
 -- Snapshots of slip headers, one per store, numbered by the history sequence of the slip.
--- Only written: no screen of the suite reads them back, so there is no key to defend.
+-- No key to defend: the suite only adds to them, and the history window reads them back.
 CREATE TABLE R出金 (
     事業所コード text,
     番号基準日付 text,
@@ -35,3 +35,5 @@ CREATE TABLE R出金 (
 );
 -- The retry of a new history number
 CREATE INDEX R出金_履歴キー ON R出金 (事業所コード, 番号基準日付, 出金履歴No);
+-- The history of one slip, read by its key
+CREATE INDEX R出金_伝票 ON R出金 (事業所コード, 番号基準日付, 出金No);

@@ -35,3 +35,7 @@ CREATE TABLE R出金明細 (
     更新日付 text
 );
 CREATE INDEX R出金明細_履歴キー ON R出金明細 (事業所コード, 番号基準日付, 出金履歴No, 出金固有行No);
+-- The history of one slip, read by its key in line order
+CREATE INDEX R出金明細_伝票 ON R出金明細 (事業所コード, 番号基準日付, 出金No, 出金行No);
+-- A correction that moved a slip to another number sequence, found by the user of its rows
+CREATE INDEX R出金明細_利用者 ON R出金明細 (事業所コード, ユーザID, 赤黒区分, 出金履歴No);
