@@ -35,3 +35,5 @@ CREATE TABLE R出金明細 (
     更新日付 text
 );
 CREATE INDEX R出金明細_履歴キー ON R出金明細 (事業所コード, 番号基準日付, 出金履歴No, 出金固有行No);
+-- The slip search's deleted slips: old-state lines by slip key, read from the index alone
+CREATE INDEX R出金明細_旧状態 ON R出金明細 (赤黒区分, 事業所コード, 番号基準日付, 出金No, 出金履歴No);
