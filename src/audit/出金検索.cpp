@@ -58,8 +58,9 @@ QString 引用(const QString& 値) {
     return u"'"_qs + 値 + u"'"_qs;
 }
 
-// Where the rows of one kind of slip come from. K names the slip's key and history number, H
-// its header; a line of the slip is L in 明細表, with 明細条件 added.
+// Where the rows of one kind of slip come from. K holds the slip's key: a stored slip's own row,
+// which is its header too, or a deleted slip's key with the history number of its last state,
+// whose header is H. A line of the slip is L in 明細表, with 明細条件 added.
 struct 出所 {
     QString 表;
     QString 明細表;
