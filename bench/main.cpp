@@ -4,6 +4,7 @@
 
 #include "dataenv/スキーマ適用.h"
 #include "slip/出金セッション.h"
+#include "検索.h"
 #include "計測.h"
 
 double 中央値(std::vector<double> 標本) {
@@ -43,7 +44,7 @@ bool 会社を開く(出金セッション& s, const QString& 根) {
 }
 
 // With names ("start", "data", "screen", "slips", "store", "delete", "lists", "report", "trip",
-// "export", "memory", "datasets") only those run; without, all.
+// "export", "memory", "datasets", "search") only those run; without, all.
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
     const QStringList 名前 = app.arguments().mid(1);
@@ -51,7 +52,8 @@ int main(int argc, char** argv) {
         {"start", 起動時間計測}, {"data", データ層計測},     {"screen", 入力画面計測},
         {"slips", 伝票計測},     {"store", 登録計測},        {"delete", 削除頁送り計測},
         {"lists", 一覧計測},     {"report", 帳票計測},       {"trip", 出張申請計測},
-        {"export", 出力計測},    {"memory", 常駐メモリ計測}, {"datasets", 大量伝票照合計測}};
+        {"export", 出力計測},    {"memory", 常駐メモリ計測}, {"datasets", 大量伝票照合計測},
+        {"search", 検索計測}};
     for (const auto& [名, 処理] : 計測) {
         if (名前.isEmpty() || 名前.contains(QLatin1String(名))) 処理();
     }

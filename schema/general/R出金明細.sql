@@ -39,3 +39,5 @@ CREATE INDEX R出金明細_履歴キー ON R出金明細 (事業所コード, �
 CREATE INDEX R出金明細_伝票 ON R出金明細 (事業所コード, 番号基準日付, 出金No, 出金行No);
 -- A correction that moved a slip to another number sequence, found by the user of its rows
 CREATE INDEX R出金明細_利用者 ON R出金明細 (事業所コード, ユーザID, 赤黒区分, 出金履歴No);
+-- The slip search's deleted slips: old-state lines by slip key, read from the index alone
+CREATE INDEX R出金明細_旧状態 ON R出金明細 (赤黒区分, 事業所コード, 番号基準日付, 出金No, 出金履歴No);

@@ -43,3 +43,5 @@ CREATE INDEX T出金_番号順 ON T出金 (出金No, 出金日付);
 -- The slip list's person search, and the entry screen's staff preset: one person's slips, newest
 -- first (without it PostgreSQL reads the whole table for a person of few slips)
 CREATE INDEX T出金_担当者日付順 ON T出金 (担当者コード, 出金日付, 出金No);
+-- The slip search by the slip's total, in date order within one amount
+CREATE INDEX T出金_合計金額 ON T出金 (実質出金金額合計, 出金日付);

@@ -39,3 +39,5 @@ CREATE INDEX T出金明細_摘要 ON T出金明細 (摘要, 出金日付);
 -- The description list of the server engines reads distinct first 20 characters in order; with
 -- the date and the whole description beside them, the index alone answers it
 CREATE INDEX T出金明細_先頭摘要 ON T出金明細 (substring(摘要,1,20), 出金日付, 摘要);
+-- The slip search by the amount of any line
+CREATE INDEX T出金明細_金額 ON T出金明細 (実質出金金額);
