@@ -96,7 +96,7 @@ void wnd出金履歴::読込() {
     画面(欄::lab_合計).Caption.clear();
     画面(欄::lab_欠け).Caption.clear();
     const std::optional<伝票鍵> 鍵 = 伝票鍵を読む(主.状態.履歴鍵);
-    履歴 = 鍵 ? 出金履歴読込(s, *鍵) : std::nullopt;
+    履歴 = 鍵 ? 出金履歴読込(s.データ, *鍵) : std::nullopt;
     if (!履歴) {
         画面(欄::lab_伝票).Caption = u"この伝票の履歴はありません。"_qs;
         画面.SetFocus(画面(欄::btn_戻る));

@@ -35,8 +35,8 @@ QString 伝票状態::合計() const {
     return 計.文字列();
 }
 
-std::optional<出金履歴> 出金履歴読込(出金セッション& s, const 伝票鍵& 鍵) {
-    履歴読み手 読み手(s);
+std::optional<出金履歴> 出金履歴読込(データ環境& d, const 伝票鍵& 鍵) {
+    履歴読み手 読み手(d);
     std::optional<鍵の履歴> 部 = 読み手.読む(鍵);
     if (!部) return std::nullopt;
     // Back to the key the slip was first stored under, then forward through every move.

@@ -7,7 +7,7 @@
 
 #include "slip/伝票鍵.h"
 
-class 出金セッション;
+class データ環境;
 
 // A column of a slip in one state, in its meaning and as text: amounts as their shortest
 // decimal form, codes and dates as stored.
@@ -52,7 +52,7 @@ struct 出金履歴 {
 
 // The history of the slip under the key; none when neither the slip nor a history row of it
 // exists.
-std::optional<出金履歴> 出金履歴読込(出金セッション& s, const 伝票鍵& 鍵);
+std::optional<出金履歴> 出金履歴読込(データ環境& d, const 伝票鍵& 鍵);
 
 // What changed from one state to the next.
 struct 項目変化 {

@@ -1,10 +1,10 @@
 #include <QSet>
 
 #include "audit/出金履歴読み手.h"
+#include "dataenv/データ環境.h"
 #include "dataenv/接続環境.h"
 #include "dataenv/記録集合.h"
 #include "rules/未集計情報.h"
-#include "slip/出金セッション.h"
 #include "text/項目編集.h"
 
 // A correction that moves a slip to another number sequence writes the new slip first, then
@@ -30,10 +30,10 @@ std::optional<QString> 履歴読み手::登録情報区分(const 伝票鍵& 鍵,
         引用(鍵.事業所コード) + u" AND 番号基準日付 = "_qs + 引用(鍵.番号基準日付) +
         u" AND 伝票No = "_qs + 引用(鍵.番号) + u" AND 履歴No = "_qs + 引用(履歴No) +
         u" AND 赤黒区分 = "_qs + 引用(赤黒区分);
-    接続環境& 接続 = s.データ.接続();
+    接続環境& 接続 = d.接続();
     記録集合 rs;
-    const bool 読めた = 未集計情報は業務DBへ(s.データ.会社設定().会社()) ? 接続.業務DB検索(rs, 文)
-                                                                         : 接続.環境DB検索(rs, 文);
+    const bool 読めた = 未集計情報は業務DBへ(d.会社設定().会社()) ? 接続.業務DB検索(rs, 文)
+                                                                  : 接続.環境DB検索(rs, 文);
     std::optional<QString> 区分;
     if (読めた && !rs.EOFか()) 区分 = rs.文字列(0);
     rs.閉じる();
@@ -54,7 +54,7 @@ std::optional<伝票鍵> 履歴読み手::移動先(const 鍵の履歴& 旧) {
         u" ORDER BY 出金履歴No DESC, 登録日付 DESC"_qs;
     std::vector<std::pair<伝票鍵, QString>> 候補;
     記録集合 rs;
-    if (s.データ.接続().業務DB検索(rs, 文)) {
+    if (d.接続().業務DB検索(rs, 文)) {
         QSet<QString> 見た;
         for (; !rs.EOFか() && 候補.size() < 候補の上限; rs.MoveNext()) {
             const 伝票鍵 k{旧.鍵.事業所コード, rs.文字列(0), rs.文字列(1)};
@@ -87,7 +87,7 @@ std::optional<伝票鍵> 履歴読み手::移動元(const 鍵の履歴& 新) {
         u" GROUP BY 番号基準日付, 出金No ORDER BY 3"_qs;
     std::vector<伝票鍵> 候補;
     記録集合 rs;
-    if (s.データ.接続().業務DB検索(rs, 文)) {
+    if (d.接続().業務DB検索(rs, 文)) {
         for (; !rs.EOFか() && 候補.size() < 候補の上限; rs.MoveNext())
             候補.push_back({新.鍵.事業所コード, rs.文字列(0), rs.文字列(1)});
     }

@@ -7,7 +7,7 @@
 
 #include "audit/出金履歴行.h"
 
-class 出金セッション;
+class データ環境;
 
 // The states of one key, oldest first, and how the key ended when no slip stands under it.
 struct 鍵の履歴 {
@@ -22,7 +22,7 @@ struct 鍵の履歴 {
 // Reads histories for one request: the staff names are read once, the rows key by key.
 class 履歴読み手 {
   public:
-    explicit 履歴読み手(出金セッション& s);
+    explicit 履歴読み手(データ環境& d);
 
     std::optional<鍵の履歴> 読む(const 伝票鍵& 鍵);
     // The key a correction moved this ended key to, when its rows show one.
@@ -35,6 +35,6 @@ class 履歴読み手 {
     // 登録情報区分 of the queue row of a history row, when the queue still holds it.
     std::optional<QString> 登録情報区分(const 伝票鍵& 鍵, const QString& 履歴No,
                                         const QString& 赤黒区分);
-    出金セッション& s;
+    データ環境& d;
     QHash<QString, QString> 担当者;  // code → name
 };

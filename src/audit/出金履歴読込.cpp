@@ -3,8 +3,8 @@
 #include <map>
 
 #include "audit/出金履歴読み手.h"
+#include "dataenv/データ環境.h"
 #include "dataenv/記録集合.h"
-#include "slip/出金セッション.h"
 
 namespace {
 
@@ -144,9 +144,9 @@ void 明細を揃える(伝票状態& st, const std::vector<const 明細行*>& �
 
 }  // namespace
 
-履歴読み手::履歴読み手(出金セッション& セッション) : s(セッション) {
+履歴読み手::履歴読み手(データ環境& 環境) : d(環境) {
     記録集合 rs;
-    if (s.データ.接続().業務DB検索(rs, u"SELECT コード, 氏名 FROM M担当者"_qs)) {
+    if (d.接続().業務DB検索(rs, u"SELECT コード, 氏名 FROM M担当者"_qs)) {
         for (; !rs.EOFか(); rs.MoveNext()) 担当者.insert(rs.文字列(0), rs.文字列(1));
     }
     rs.閉じる();
@@ -168,7 +168,7 @@ QString 履歴読み手::操作者名(const QString& ユーザID) const {
 
 std::optional<鍵の履歴> 履歴読み手::読む(const 伝票鍵& 鍵) {
     履歴行群 行群;
-    if (!履歴行を読む(s.データ.接続(), 鍵, 行群) || 行群.空()) return std::nullopt;
+    if (!履歴行を読む(d.接続(), 鍵, 行群) || 行群.空()) return std::nullopt;
 
     std::vector<組立中> 群;
     const 番号別 新群 = 番号ごとに(行群.新明細);

@@ -1,4 +1,5 @@
 #include "audit/出金検索.h"
+#include "audit/出金履歴読み手.h"
 
 #include <QDate>
 #include <QRegularExpression>
@@ -210,5 +211,14 @@ bool 出金検索(データ環境& d, const 出金検索条件& 条件, QList<�
         結果.append(検索行を読む(rs));
     }
     rs.閉じる();
+    // A correction that moved a slip into another number sequence leaves its old key in the
+    // history tables only, as a deletion does; the slip was not deleted, so it is not listed.
+    if (成功 && 条件.削除済) {
+        履歴読み手 読み手(d);
+        結果.removeIf([&](const 出金検索行& r) {
+            const std::optional<鍵の履歴> 部 = 読み手.読む(r.鍵);
+            return 部 && 読み手.移動先(*部);
+        });
+    }
     return 成功;
 }

@@ -7,7 +7,8 @@
 #include "slip/出金セッション.h"
 
 // The history program for scripts: the tree opened as the slip program opens it (with run
-// history rows under its own name), the history of one slip printed as text.
+// history rows under its own name), the history of one slip printed as text, or with --search
+// the slips a search finds, as CSV.
 class 紺碧帳履歴 {
   public:
     紺碧帳履歴(プラットフォーム& 基盤, const QString& 自身のフォルダ);

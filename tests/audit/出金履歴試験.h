@@ -33,7 +33,7 @@ class 出金履歴試験 : public 両エンジン入力画面 {
         return {u"000"_qs, 基準日付, No};
     }
     出金履歴 読む(const 伝票鍵& k) {
-        std::optional<出金履歴> h = 出金履歴読込(s, k);
+        std::optional<出金履歴> h = 出金履歴読込(s.データ, k);
         EXPECT_TRUE(h.has_value()) << k.文字列().toStdString();
         return h.value_or(出金履歴{});
     }

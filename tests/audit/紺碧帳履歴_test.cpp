@@ -45,6 +45,18 @@ TEST_P(履歴の命令, 無い伝票と鍵でない引数は零でない終わ�
     EXPECT_EQ(実行({}), 2);
 }
 
+TEST_P(履歴の命令, 検索の指定ではその伝票をCSVで書く) {
+    const QString No = 伝票を打つ(u"3"_qs, 2);
+    ASSERT_EQ(実行({u"--search"_qs, u"--min"_qs, u"3300"_qs, u"--max"_qs, u"3300"_qs}), 0)
+        << エラー文.toStdString();
+    const QStringList 行 = 出力文.split(u"\r\n"_qs, Qt::SkipEmptyParts);
+    ASSERT_EQ(行.size(), 2);
+    EXPECT_TRUE(行[1].contains(No)) << 行[1].toStdString();
+    EXPECT_EQ(実行({u"--search"_qs, u"--min"_qs, u"3301"_qs}), 0);
+    EXPECT_EQ(出力文.split(u"\r\n"_qs, Qt::SkipEmptyParts).size(), 1);
+    EXPECT_EQ(実行({u"--search"_qs, u"--what"_qs}), 2);
+}
+
 KONPEKI_両エンジンで(履歴の命令);
 
 }  // namespace
