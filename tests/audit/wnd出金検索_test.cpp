@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include "audit/wnd出金履歴.h"
 #include "audit/wnd出金検索.h"
 #include "audit/wnd出金検索_部品名.h"
 #include "screen/frm紺碧帳.h"
@@ -103,6 +104,7 @@ TEST_P(wnd出金検索試験, 並べ替えた後も選んだ行の伝票を開�
 }
 
 TEST_P(wnd出金検索試験, 削除した伝票ではその鍵で履歴の窓を開き検索の窓は残る) {
+    wnd出金履歴 履歴窓(*s, f->画面);
     bool 閉じていた = true;
     F9([&](wnd出金検索&) {
         w->画面.操作_フォーカス(c(欄::chb_削除済));
@@ -117,6 +119,11 @@ TEST_P(wnd出金検索試験, 削除した伝票ではその鍵で履歴の窓�
     EXPECT_TRUE(基盤.表示画面.contains(qMakePair(u"wnd出金履歴"_qs, true)));
     EXPECT_EQ(f->状態.履歴鍵, 鍵[4].文字列());
     EXPECT_TRUE(s->新規情報フラグ);
+    // The history window read that slip: its deletion first.
+    部品& 状態 = 履歴窓.画面(u"lst_状態"_qs);
+    ASSERT_FALSE(状態.項目.isEmpty());
+    EXPECT_EQ(状態.セル(0, 1), u"削除"_qs);
+    EXPECT_EQ(状態.セル(0, 2), 鍵[4].事業所コード + u'-' + 鍵[4].番号基準日付 + u'-' + 鍵[4].番号);
 }
 
 TEST_P(wnd出金検索試験, 書類を開くは選んだ行の最初の書類を開き書類のない伝票では知らせる) {
