@@ -175,6 +175,8 @@ std::optional<鍵の履歴> 履歴読み手::読む(const 伝票鍵& 鍵) {
     for (const auto& [番号, 行] : 新群) 群.push_back({番号, {}, 行, {}, nullptr});
     for (const 置換記録& k : 置換記録を集める(群, 行群)) {
         int i = k.状態;
+        // Stores within one second leave equal stamps: the number tells them apart then.
+        if (i >= 0 && !群[i].置換No.isEmpty()) i = -1;
         if (i < 0) i = 番号で閉じる先(群, k.番号);
         if (i < 0 || !群[i].置換No.isEmpty()) {
             群.push_back({{}, k.番号, {}, k.行, k.見出し});

@@ -208,6 +208,27 @@ TEST_P(削除と欠け, 引用符の摘要は置換時の行が無く不完全�
     EXPECT_EQ(d.変更行[0].出金固有行No, u"002"_qs);
 }
 
+// Two corrections within the second of the store: every line keeps the same stamp in each
+// state, and the history numbers put the states in their order.
+TEST_P(削除と欠け, 同じ秒の修正も順に並ぶ) {
+    const QString No = 伝票を打つ(u"3"_qs, 1);
+    for (const QString 額 : {u"1500"_qs, u"1700"_qs}) {
+        呼ぶ(No);
+        f->画面.操作_フォーカス(c(u"出金金額"_qs, 0));
+        打ってTab(c(u"出金金額"_qs, 0), 額);
+        f->画面.操作_クリック(c(u"btn_登録"_qs));
+    }
+    const 出金履歴 h = 読む(鍵(u"20260331"_qs, No));
+    ASSERT_EQ(h.状態.size(), 3u);
+    QStringList 額;
+    for (const 伝票状態& st : h.状態) {
+        EXPECT_TRUE(st.欠け.isEmpty()) << st.欠け.join(u' ').toStdString();
+        ASSERT_EQ(st.明細.size(), 1u);
+        額 << st.明細[0].値(u"出金金額");
+    }
+    EXPECT_EQ(額, (QStringList{u"1700"_qs, u"1500"_qs, u"1000"_qs}));
+}
+
 TEST_P(削除と欠け, 無い鍵には履歴が無い) {
     EXPECT_FALSE(出金履歴読込(s.データ, 鍵(u"20260331"_qs, u"00000099"_qs)).has_value());
 }
