@@ -83,8 +83,9 @@ class 入力画面モンキー : public 入力画面試験, public ::testing::Wi
             m.操作_ダブルクリック(*p);
         } else if (種 < 94 && 焦点) {
             using enum キーコード;
-            static const QList<キーコード> キー = {Ctrl, Enter, Tab, Esc, PageUp, PageDown, Up,
-                                                   Down, F1,    F2,  F4,  F5,     F12};
+            static const QList<キーコード> キー = {Ctrl, Enter, Tab, Esc, PageUp, PageDown,
+                                                   Up,   Down,  F1,  F2,  F4,     F5,
+                                                   F8,   F9,    F10, F12};
             const キーコード k = r->選ぶ(キー);
             記録 << u"key "_qs + QString::number(static_cast<int>(k)) + u" on "_qs + 説明(*焦点);
             m.操作_キー(*焦点, k);
