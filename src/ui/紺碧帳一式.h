@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include "lists/wnd支払先登録.h"
 #include "lists/一覧画面集.h"
 #include "screen/frm紺碧帳.h"
 #include "screen/msg暗証番号確認.h"
@@ -23,6 +24,7 @@ struct 紺碧帳一式 {
     frm紺碧帳 モデル{セッション};
     msg暗証番号確認 暗証確認{セッション.データ};
     一覧画面集 一覧群{セッション, モデル.画面};
+    wnd支払先登録 支払先登録{セッション, モデル.画面};
     入力画面ウィンドウ 画面{モデル};
     紺碧帳起動 起動{セッション, 画面};
 };
