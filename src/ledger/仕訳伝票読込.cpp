@@ -84,21 +84,26 @@ enum 列 {
     列_摘要,
 };
 
-QString 伝票文(const 出力指定& 指定) {
-    QString 文 =
-        u"SELECT h.事業所コード, h.番号基準日付, h.出金No, h.出金日付, h.担当者コード, "
-        u"h.部門コード, b.名称, h.実質出金金額合計, d.出金行No, d.費目区分, k.名称, "
-        u"d.内税外税区分, d.消費税率, d.出金金額, d.出金消費税, d.実質出金金額, d.支払先, "
-        u"d.課税事業所区分, d.摘要 "
-        u"FROM T出金 h INNER JOIN T出金明細 d ON d.事業所コード = h.事業所コード "
-        u"AND d.番号基準日付 = h.番号基準日付 AND d.出金No = h.出金No "
-        u"LEFT JOIN M部門 b ON b.コード = h.部門コード "
-        u"LEFT JOIN K費目区分 k ON k.区分 = d.費目区分 "
-        u"WHERE h.出金日付 >= '"_qs +
-        指定.開始日 + u"' AND h.出金日付 <= '"_qs + 指定.終了日 + u"'"_qs;
+// The slips of the period, of one office or all.
+QString 期間の条件(const 出力指定& 指定) {
+    QString 文 = u" WHERE h.出金日付 >= '"_qs + 指定.開始日 + u"' AND h.出金日付 <= '"_qs +
+                 指定.終了日 + u"'"_qs;
     if (!指定.事業所コード.isEmpty() && 指定.事業所コード != u"000")
         文 += u" AND h.事業所コード = '"_qs + 指定.事業所コード + u"'"_qs;
-    return 文 + u" ORDER BY h.出金日付, h.事業所コード, h.番号基準日付, h.出金No, d.出金行No"_qs;
+    return 文;
+}
+
+QString 伝票文(const 出力指定& 指定) {
+    return u"SELECT h.事業所コード, h.番号基準日付, h.出金No, h.出金日付, h.担当者コード, "
+           u"h.部門コード, b.名称, h.実質出金金額合計, d.出金行No, d.費目区分, k.名称, "
+           u"d.内税外税区分, d.消費税率, d.出金金額, d.出金消費税, d.実質出金金額, d.支払先, "
+           u"d.課税事業所区分, d.摘要 "
+           u"FROM T出金 h INNER JOIN T出金明細 d ON d.事業所コード = h.事業所コード "
+           u"AND d.番号基準日付 = h.番号基準日付 AND d.出金No = h.出金No "
+           u"LEFT JOIN M部門 b ON b.コード = h.部門コード "
+           u"LEFT JOIN K費目区分 k ON k.区分 = d.費目区分"_qs +
+           期間の条件(指定) +
+           u" ORDER BY h.出金日付, h.事業所コード, h.番号基準日付, h.出金No, d.出金行No"_qs;
 }
 
 }  // namespace
@@ -180,4 +185,13 @@ bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, con
         return false;
     }
     return 最後 && エラー.isEmpty();
+}
+
+int 仕訳伝票数(データ環境& 環境, const 出力指定& 指定) {
+    記録集合 rs;
+    int 数 = 0;
+    if (環境.接続().業務DB検索(rs, u"SELECT COUNT(*) FROM T出金 h"_qs + 期間の条件(指定)))
+        数 = rs.文字列(0).toInt();
+    rs.閉じる();
+    return 数;
 }
