@@ -31,7 +31,6 @@ int 窓で(int argc, char** argv) {
     frm紺碧帳出力 画面(出力);
     wnd支払先登録 支払先登録(出力.s, 画面.画面);
     基盤.画面登録(支払先登録.画面.名前, 支払先登録.画面);
-    画面.読込();
     ScreenWindow 窓(画面.画面);
     画面.途中表示 = [&] {
         窓.反映();
@@ -43,7 +42,10 @@ int 窓で(int argc, char** argv) {
         画面.閉じる = nullptr;
         画面.終了();
     };
+    // Loaded once the window is up, so that the field the focus comes to holds its proposal
+    // selected, to be typed over.
     窓.show();
+    画面.読込();
     窓.反映();
     return app.exec();
 }

@@ -96,7 +96,10 @@ void frm紺碧帳出力::出力() {
     実行中 = false;
     使用可否(true);
     if (書けた) 進捗.Value = 進捗.Max;
-    結果.Caption = 書けた ? p.結果文言 : p.拒否文言;
+    // The figures one to a line, the file last.
+    結果.Caption =
+        書けた ? QString(p.結果文言).replace(u"、"_qs, u"\n"_qs).replace(u" → "_qs, u"\n→ "_qs)
+               : p.拒否文言;
 }
 
 void frm紺碧帳出力::終了() {

@@ -77,6 +77,8 @@ QWidget* 作成(部品& p, QWidget* 親) {
         case 部品種別::xLabel: {
             auto* l = new QLabel(親);
             l->setAlignment(Qt::AlignCenter);
+            // A label of several lines' height breaks a long text rather than cut it.
+            l->setWordWrap(p.Height >= 2 * 330);
             return l;
         }
         case 部品種別::SSPanel: {

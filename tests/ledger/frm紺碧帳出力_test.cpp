@@ -64,9 +64,10 @@ TEST_P(出力画面, 開くと今月の全事業所を弥生形式で出す案�
     打つ(欄::出力先, 出力先());
     押す(欄::btn_出力);
     EXPECT_TRUE(基盤.表示済み.isEmpty());
-    EXPECT_TRUE(結果().startsWith(u"伝票 3 件、明細 4 行、借方金額合計 14,180 円"_qs))
+    EXPECT_TRUE(結果().startsWith(u"伝票 3 件\n明細 4 行\n借方金額合計 14,180 円"_qs))
         << 結果().toStdString();
-    EXPECT_TRUE(結果().endsWith(u" → "_qs + 出力先()));
+    EXPECT_TRUE(結果().endsWith(u"円\n→ "_qs + 出力先()));
+    EXPECT_EQ(結果().count(u'\n'), 4);
     EXPECT_EQ(c(欄::pgb_進捗).Max, 3);
     EXPECT_EQ(c(欄::pgb_進捗).Value, 3);
     // Drawn after each slip while the commands stood disabled, enabled again at the end.
@@ -92,7 +93,7 @@ TEST_P(出力画面, 形式と事業所と期間を選び直して一つの窓�
     EXPECT_EQ(c(欄::opb_形式, 0).Value, 0);
     打つ(欄::事業所コード, u"1"_qs);
     押す(欄::btn_出力);
-    EXPECT_TRUE(結果().startsWith(u"伝票 1 件、明細 1 行、借方金額合計 3,300 円"_qs))
+    EXPECT_TRUE(結果().startsWith(u"伝票 1 件\n明細 1 行\n借方金額合計 3,300 円"_qs))
         << 結果().toStdString();
     const QString 中身 = QString::fromUtf8(出力内容());
     EXPECT_TRUE(中身.startsWith(u"事業所コード,番号基準日付,出金No"_qs));
@@ -101,7 +102,7 @@ TEST_P(出力画面, 形式と事業所と期間を選び直して一つの窓�
     打つ(欄::事業所コード, u"000"_qs);
     打つ(欄::開始日, u"20251001"_qs);
     押す(欄::btn_出力);
-    EXPECT_TRUE(結果().startsWith(u"伝票 5 件、明細 6 行"_qs)) << 結果().toStdString();
+    EXPECT_TRUE(結果().startsWith(u"伝票 5 件\n明細 6 行"_qs)) << 結果().toStdString();
     押す(欄::btn_終了);
     EXPECT_EQ(履歴(), (QStringList{u"開始"_qs, u"出力終了"_qs, u"出力終了"_qs, u"終了"_qs}));
 }
