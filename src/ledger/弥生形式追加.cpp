@@ -13,6 +13,15 @@ QString 円(金額 値) {
     return QString::number(値.整数値());
 }
 
+// A row is one line of the file: a carriage return or line feed in the summary (a description
+// taken over from a trip application holds one) becomes a blank, as does any control character.
+QString 一行に(QString 文字列) {
+    for (QChar& c : 文字列) {
+        if (c.unicode() < 0x20) c = u' ';
+    }
+    return 文字列;
+}
+
 // The fields of one line. A refund (a negative real amount) takes cash on the debit side and
 // the expense on the credit side, since the format takes no negative amounts.
 std::array<QString, 弥生列数> 行の項目(const 仕訳伝票& t, const 仕訳行& l, int 位置) {
@@ -35,7 +44,7 @@ std::array<QString, 弥生列数> 行の項目(const 仕訳伝票& t, const 仕�
     f[現金側 + 3] = u"対象外"_qs;
     f[現金側 + 4] = 額;
     f[現金側 + 5] = u"0"_qs;
-    f[弥生_摘要] = (l.支払先.trimmed() + u' ' + l.摘要.trimmed()).trimmed();
+    f[弥生_摘要] = 一行に((l.支払先.trimmed() + u' ' + l.摘要.trimmed()).trimmed());
     f[弥生_タイプ] = u"0"_qs;
     f[弥生_仕訳メモ] = u"紺碧帳 "_qs + t.名前() + u'-' + l.出金行No;
     f[弥生_付箋1] = u"0"_qs;
