@@ -2,7 +2,7 @@
 
 #include <QSaveFile>
 
-#include "text/シフトJIS変換.h"
+#include "ledger/CP932表.h"
 #include "text/プラットフォーム.h"
 #include "text/数値書式.h"
 
@@ -47,7 +47,7 @@ bool 紺碧帳出力::出力(const 出力指定& 指定) {
     // Read and formatted slip by slip into memory; the file is written only when all is whole.
     const bool 弥生 = 指定.形式 == u"yayoi";
     QByteArray 内容 = 弥生 ? QByteArray() : CSV見出し();
-    CP932変換器 変換器;
+    CP932表 変換器;
     集計 = {};
     結果文言.clear();
     拒否文言.clear();
