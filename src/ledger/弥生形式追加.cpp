@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <array>
 
 #include "ledger/CP932表.h"
 #include "ledger/仕訳書式.h"
+#include "ledger/行の筆.h"
 #include "rules/弥生形式.h"
 #include "text/項目編集.h"
 
@@ -50,38 +52,12 @@ std::array<欄値, 弥生列数> 行の項目(const 仕訳伝票& t, const 仕�
     return f;
 }
 
-void 数を書く(QString& 行, qint64 数) {
-    char16_t 桁[20];
-    int i = 20;
-    do {
-        桁[--i] = static_cast<char16_t>(u'0' + 数 % 10);
-        数 /= 10;
-    } while (数 > 0);
-    行.append(QStringView(桁 + i, 20 - i));
-}
-
-// A text quoted, cut to the column's places in whole characters (the import cuts longer texts
-// itself; a text of at most half the places fits whatever its characters). A row is one line
-// of the file: a carriage return or line feed (a description taken over from a trip
-// application holds one), as any control character, becomes a blank.
-void 文字を書く(QString& 行, QStringView 値, int 桁数) {
-    QString 切った;
-    if (桁数 > 0 && 値.size() * 2 > 桁数) {
-        切った = バイト長切詰(値.toString(), 桁数);
-        値 = 切った;
-    }
-    行 += u'"';
-    bool そのまま = true;
-    for (QChar c : 値) そのまま = そのまま && c != u'"' && c.unicode() >= 0x20;
-    if (そのまま) {
-        行 += 値;
-    } else {
-        for (QChar c : 値) {
-            if (c == u'"') 行 += u'"';
-            行 += c.unicode() < 0x20 ? QChar(u' ') : c;
-        }
-    }
-    行 += u'"';
+// Room enough for the row: every text with each character doubled and its quotes, every number
+// of twenty digits, the commas and the line end.
+qsizetype 行の上限(const std::array<欄値, 弥生列数>& f) {
+    qsizetype n = 弥生列数 + 2;
+    for (const 欄値& v : f) n += v.数 >= 0 ? 20 : v.文字.size() * 2 + 2;
+    return n;
 }
 
 }  // namespace
@@ -90,8 +66,7 @@ bool 弥生形式追加(CP932表& 変換器, const 仕訳伝票& t, QByteArray& 
     const qsizetype 元の長さ = 出力.size();
     const QString 日付 = 弥生日付(t.出金日付);
     const QString メモ頭 = u"紺碧帳 "_qs + t.名前() + u'-';
-    QString 行, 摘要, メモ;
-    行.reserve(512);
+    QString 行, 摘要, メモ;  // kept from row to row, so that their memory is made once
     for (int i = 0; i < t.行.size(); ++i) {
         const 仕訳行& l = t.行[i];
         const QString 旗 = 弥生識別フラグ(i, t.行.size());
@@ -101,24 +76,27 @@ bool 弥生形式追加(CP932表& 変換器, const 仕訳伝票& t, QByteArray& 
         メモ = メモ頭;
         メモ += l.出金行No;
         const auto f = 行の項目(t, l, 旗, 日付, QStringView(摘要).trimmed(), メモ);
-        行.clear();
+        if (行.size() < 行の上限(f)) 行.resize(行の上限(f) * 2);
+        行の筆 筆(reinterpret_cast<char16_t*>(行.data()));
         for (int c = 0; c < 弥生列数; ++c) {
-            if (c > 0) 行 += u',';
+            if (c > 0) 筆.字(u',');
             const 弥生列& 列 = 弥生列一覧[c];
             if (f[c].数 >= 0) {
-                数を書く(行, f[c].数);
+                筆.数(f[c].数);
             } else if (列.文字項目) {
-                文字を書く(行, f[c].文字, 列.桁数);
+                筆.弥生の文字(f[c].文字, 列.桁数);
             } else {
-                行 += f[c].文字;
+                筆.文(f[c].文字);
             }
         }
-        行 += u"\r\n";
+        筆.字(u'\r');
+        筆.字(u'\n');
+        const QStringView 書いた = 筆.書いた();
         qsizetype 位置;
-        if (!変換器.追加(行, 出力, 位置)) {
-            const qsizetype 単位数 = 行[位置].isHighSurrogate() ? 2 : 1;
+        if (!変換器.追加(書いた, 出力, 位置)) {
+            const qsizetype 単位数 = 書いた[位置].isHighSurrogate() ? 2 : 1;
             エラー = u"伝票 "_qs + t.名前() + u" の "_qs + l.出金行No +
-                     u" 行目に Shift-JIS にない文字「"_qs + 行.mid(位置, 単位数) +
+                     u" 行目に Shift-JIS にない文字「"_qs + 書いた.mid(位置, 単位数).toString() +
                      u"」があります。何も出力しませんでした。"_qs;
             出力.resize(元の長さ);
             return false;
