@@ -74,18 +74,21 @@ bool 名称読込(データ環境& 環境, const QString& 文, QHash<QString, QS
     return 成功;
 }
 
-// The tax category of the kinds of line met so far: a period has only a handful of them, and
-// the category is the same text for each.
+// The tax category of the kinds of line met on one date: slips come in date order, a day has
+// only a handful of kinds, and the category is the same text for each.
 class 税区分控 {
   public:
     const QString& 求める(const 仕訳行& l, const QString& 日付, const QString& 非課税区分) {
-        const bool 軽減期 = 日付 >= u"20191001";
+        if (日付 != 控の日付) {
+            控群.clear();
+            控の日付 = 日付;
+        }
         for (const 控& k : 控群) {
-            if (k.内外 == l.内税外税区分 && k.税率 == l.消費税率 && k.軽減期 == 軽減期 &&
-                k.割合 == l.控除割合 && k.非課税区分 == 非課税区分)
+            if (k.内外 == l.内税外税区分 && k.税率 == l.消費税率 && k.割合 == l.控除割合 &&
+                k.非課税区分 == 非課税区分)
                 return k.税区分;
         }
-        控群.push_back({l.内税外税区分, l.消費税率, 軽減期, l.控除割合, 非課税区分,
+        控群.push_back({l.内税外税区分, l.消費税率, l.控除割合, 非課税区分,
                         弥生仕入税区分(l.内税外税区分, l.消費税率, 日付, l.控除割合, 非課税区分)});
         return 控群.back().税区分;
     }
@@ -94,11 +97,11 @@ class 税区分控 {
     struct 控 {
         short 内外;
         金額 税率;
-        bool 軽減期;
         int 割合;
         QString 非課税区分;
         QString 税区分;
     };
+    QString 控の日付;
     std::vector<控> 控群;
 };
 

@@ -1,7 +1,6 @@
 #include "lists/wnd支払先登録.h"
 
 #include "dataenv/データ環境.h"
-#include "lists/一覧部品名.h"
 #include "slip/出金セッション.h"
 #include "text/プラットフォーム.h"
 #include "text/項目編集.h"
