@@ -1,6 +1,7 @@
 #include <QStringList>
 
 #include "ledger/仕訳書式.h"
+#include "ledger/行の筆.h"
 
 namespace {
 
@@ -20,39 +21,37 @@ QByteArray CSV見出し() {
 }
 
 void CSV形式追加(const 仕訳伝票& t, QByteArray& 出力) {
-    QString 文;
+    const QString 伝票合計 = t.実質出金金額合計.文字列();
+    QString 行;  // kept from line to line, so that its memory is made once
     for (const 仕訳行& l : t.行) {
-        const QString 項目[] = {t.事業所コード,
-                                t.番号基準日付,
-                                t.出金No,
-                                t.出金日付,
-                                t.担当者コード,
-                                t.部門コード,
-                                t.部門名,
-                                t.実質出金金額合計.文字列(),
-                                l.出金行No,
-                                l.費目区分,
-                                l.費目区分名称,
-                                l.勘定科目,
-                                l.補助科目,
-                                QString::number(l.内税外税区分),
-                                l.消費税率.文字列(),
-                                l.出金金額.文字列(),
-                                l.出金消費税.文字列(),
-                                l.実質出金金額.文字列(),
-                                l.支払先,
-                                l.登録番号,
-                                QString::number(l.控除割合),
-                                l.課税事業所区分,
-                                l.摘要,
-                                l.税区分};
+        const QString 額[] = {l.消費税率.文字列(), l.出金金額.文字列(), l.出金消費税.文字列(),
+                              l.実質出金金額.文字列()};
+        const QString 内外 = QString::number(l.内税外税区分);
+        const QString 割合 = QString::number(l.控除割合);
+        const QStringView 項目[] = {t.事業所コード, t.番号基準日付,
+                                    t.出金No,       t.出金日付,
+                                    t.担当者コード, t.部門コード,
+                                    t.部門名,       伝票合計,
+                                    l.出金行No,     l.費目区分,
+                                    l.費目区分名称, l.勘定科目,
+                                    l.補助科目,     内外,
+                                    額[0],          額[1],
+                                    額[2],          額[3],
+                                    l.支払先,       l.登録番号,
+                                    割合,           l.課税事業所区分,
+                                    l.摘要,         l.税区分};
+        qsizetype 上限 = std::size(項目) + 2;
+        for (QStringView v : 項目) 上限 += 行の筆::上限(v);
+        if (行.size() < 上限) 行.resize(上限 * 2);
+        行の筆 筆(reinterpret_cast<char16_t*>(行.data()));
         bool 先頭 = true;
-        for (const QString& v : 項目) {
-            if (!先頭) 文 += u',';
+        for (QStringView v : 項目) {
+            if (!先頭) 筆.字(u',');
             先頭 = false;
-            文 += CSV項目(v);
+            筆.CSVの文字(v);
         }
-        文 += u"\r\n"_qs;
+        筆.字(u'\r');
+        筆.字(u'\n');
+        出力 += 筆.書いた().toUtf8();
     }
-    出力 += 文.toUtf8();
 }

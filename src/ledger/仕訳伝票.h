@@ -52,3 +52,5 @@ struct 仕訳伝票 {
 // lacks.
 using 伝票受取 = std::function<bool(const 仕訳伝票& 伝票, QString& エラー)>;
 bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, const 伝票受取& 受取, QString& エラー);
+// How many slips the period holds, for a progress to count against; 0 when the count fails.
+int 仕訳伝票数(データ環境& 環境, const 出力指定& 指定);

@@ -1,5 +1,8 @@
 #include <QHash>
 #include <QMap>
+#include <array>
+#include <initializer_list>
+#include <vector>
 
 #include "dataenv/データ環境.h"
 #include "ledger/仕訳伝票.h"
@@ -40,65 +43,136 @@ bool 登録読込(データ環境& 環境, QHash<QString, QList<登録期間>>& 
     const bool 成功 = 環境.接続().業務DB検索(
         rs, u"SELECT 支払先, 有効開始日, 有効終了日, 登録番号 FROM M紺碧支払先登録"_qs);
     for (; 成功 && !rs.EOFか(); rs.MoveNext()) {
-        登録[rs.文字列(u"支払先"_qs).trimmed()].append({rs.文字列(u"有効開始日"_qs),
-                                                        rs.文字列(u"有効終了日"_qs).trimmed(),
-                                                        rs.文字列(u"登録番号"_qs).trimmed()});
+        // A number that fails its check counts as no registration.
+        const QString 番号 = rs.文字列(u"登録番号"_qs).trimmed();
+        if (登録番号検査(番号) != 登録番号判定::正しい) continue;
+        登録[rs.文字列(u"支払先"_qs).trimmed()].append(
+            {rs.文字列(u"有効開始日"_qs), rs.文字列(u"有効終了日"_qs).trimmed(), 番号});
     }
     rs.閉じる();
     return 成功;
 }
 
-// The payee's registration in force on the date; a number that fails its check counts as none.
+// The payee's registration in force on the date.
 QString 有効な登録番号(const QHash<QString, QList<登録期間>>& 登録, const QString& 支払先,
                        const QString& 日付) {
+    if (登録.isEmpty()) return {};
     const auto it = 登録.constFind(支払先.trimmed());
     if (it == 登録.cend()) return {};
     for (const 登録期間& p : *it) {
-        if (p.開始日 <= 日付 && (p.終了日.isEmpty() || 日付 <= p.終了日) &&
-            登録番号検査(p.登録番号) == 登録番号判定::正しい)
-            return p.登録番号;
+        if (p.開始日 <= 日付 && (p.終了日.isEmpty() || 日付 <= p.終了日)) return p.登録番号;
     }
     return {};
 }
 
-// The columns of the read, in the order of the SELECT; rows are read by place.
+// The names of a small master by code, read once rather than joined to every line.
+bool 名称読込(データ環境& 環境, const QString& 文, QHash<QString, QString>& 名称) {
+    記録集合 rs;
+    const bool 成功 = 環境.接続().業務DB検索(rs, 文);
+    for (; 成功 && !rs.EOFか(); rs.MoveNext()) 名称.insert(rs.文字列(0), rs.文字列(1));
+    rs.閉じる();
+    return 成功;
+}
+
+// The tax category of the kinds of line met on one date: slips come in date order, a day has
+// only a handful of kinds, and the category is the same text for each.
+class 税区分控 {
+  public:
+    const QString& 求める(const 仕訳行& l, const QString& 日付, const QString& 非課税区分) {
+        if (日付 != 控の日付) {
+            控群.clear();
+            控の日付 = 日付;
+        }
+        for (const 控& k : 控群) {
+            if (k.内外 == l.内税外税区分 && k.税率 == l.消費税率 && k.割合 == l.控除割合 &&
+                k.非課税区分 == 非課税区分)
+                return k.税区分;
+        }
+        控群.push_back({l.内税外税区分, l.消費税率, l.控除割合, 非課税区分,
+                        弥生仕入税区分(l.内税外税区分, l.消費税率, 日付, l.控除割合, 非課税区分)});
+        return 控群.back().税区分;
+    }
+
+  private:
+    struct 控 {
+        short 内外;
+        金額 税率;
+        int 割合;
+        QString 非課税区分;
+        QString 税区分;
+    };
+    QString 控の日付;
+    std::vector<控> 控群;
+};
+
+// The columns of the read, in the order of the SELECT; rows are read by place. The short codes
+// of the slip and of the line come joined by "|" in one column each (codes are digits), so that
+// a line costs the engine and the driver four texts instead of twelve; a new slip shows as
+// another slip column.
 enum 列 {
-    列_事業所,
-    列_基準日,
-    列_番号,
-    列_日付,
-    列_担当者,
-    列_部門,
-    列_部門名,
+    列_伝票,  // 事業所コード|番号基準日付|出金No|出金日付|担当者コード|部門コード
     列_伝票合計,
-    列_行番号,
-    列_費目,
-    列_費目名,
-    列_内外,
+    列_行,  // 出金行No|費目区分|内税外税区分|課税事業所区分
     列_税率,
     列_金額,
     列_税額,
     列_実質金額,
     列_支払先,
-    列_課税事業所,
     列_摘要,
 };
 
-QString 伝票文(const 出力指定& 指定) {
-    QString 文 =
-        u"SELECT h.事業所コード, h.番号基準日付, h.出金No, h.出金日付, h.担当者コード, "
-        u"h.部門コード, b.名称, h.実質出金金額合計, d.出金行No, d.費目区分, k.名称, "
-        u"d.内税外税区分, d.消費税率, d.出金金額, d.出金消費税, d.実質出金金額, d.支払先, "
-        u"d.課税事業所区分, d.摘要 "
-        u"FROM T出金 h INNER JOIN T出金明細 d ON d.事業所コード = h.事業所コード "
-        u"AND d.番号基準日付 = h.番号基準日付 AND d.出金No = h.出金No "
-        u"LEFT JOIN M部門 b ON b.コード = h.部門コード "
-        u"LEFT JOIN K費目区分 k ON k.区分 = d.費目区分 "
-        u"WHERE h.出金日付 >= '"_qs +
-        指定.開始日 + u"' AND h.出金日付 <= '"_qs + 指定.終了日 + u"'"_qs;
+// The statement's text of codes joined by "|", a missing one as empty text: one format() of
+// the engine, which both engines have, makes the text in one piece.
+QString 連結(std::initializer_list<const char16_t*> 列名) {
+    QString 型, 引数;
+    for (const char16_t* 名 : 列名) {
+        型 += 型.isEmpty() ? u"%s"_qs : u"|%s"_qs;
+        引数 += u", "_qs + QString::fromUtf16(名);
+    }
+    return u"format('"_qs + 型 + u"'"_qs + 引数 + u")"_qs;
+}
+
+// The slips of the period, of one office or all.
+QString 期間の条件(const 出力指定& 指定) {
+    QString 文 = u" WHERE h.出金日付 >= '"_qs + 指定.開始日 + u"' AND h.出金日付 <= '"_qs +
+                 指定.終了日 + u"'"_qs;
     if (!指定.事業所コード.isEmpty() && 指定.事業所コード != u"000")
         文 += u" AND h.事業所コード = '"_qs + 指定.事業所コード + u"'"_qs;
-    return 文 + u" ORDER BY h.出金日付, h.事業所コード, h.番号基準日付, h.出金No, d.出金行No"_qs;
+    return 文;
+}
+
+QString 伝票文(const 出力指定& 指定) {
+    // Date and number first, as the date index stands, so that only slips of one number on
+    // one day are sorted further.
+    return u"SELECT "_qs +
+           連結({u"h.事業所コード", u"h.番号基準日付", u"h.出金No", u"h.出金日付",
+                 u"h.担当者コード", u"h.部門コード"}) +
+           u", h.実質出金金額合計, "_qs +
+           連結({u"d.出金行No", u"d.費目区分", u"d.内税外税区分", u"d.課税事業所区分"}) +
+           u", d.消費税率, d.出金金額, d.出金消費税, d.実質出金金額, d.支払先, d.摘要 "
+           u"FROM T出金 h INNER JOIN T出金明細 d ON d.事業所コード = h.事業所コード "
+           u"AND d.番号基準日付 = h.番号基準日付 AND d.出金No = h.出金No"_qs +
+           期間の条件(指定) +
+           u" ORDER BY h.出金日付, h.出金No, h.事業所コード, h.番号基準日付, d.出金行No"_qs;
+}
+
+// Takes the joined codes apart, in their order; a part missing is empty.
+template <std::size_t N>
+std::array<QStringView, N> 分ける(QStringView 連結文字列) {
+    std::array<QStringView, N> 部分;
+    qsizetype 始 = 0;
+    for (std::size_t i = 0; i < N && 始 <= 連結文字列.size(); ++i) {
+        qsizetype 終 = 連結文字列.indexOf(u'|', 始);
+        if (終 < 0 || i == N - 1) 終 = 連結文字列.size();
+        部分[i] = 連結文字列.mid(始, 終 - 始);
+        始 = 終 + 1;
+    }
+    return 部分;
+}
+
+short 区分値(QStringView 文字) {
+    if (文字.size() == 1 && 文字[0] >= u'0' && 文字[0] <= u'9') return 文字[0].unicode() - u'0';
+    return 整数変換(文字.toString());
 }
 
 }  // namespace
@@ -106,10 +180,14 @@ QString 伝票文(const 出力指定& 指定) {
 bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, const 伝票受取& 受取, QString& エラー) {
     QHash<QString, 勘定対応> 対応;
     QHash<QString, QList<登録期間>> 登録;
-    if (!勘定対応読込(環境, 対応) || !登録読込(環境, 登録)) {
+    QHash<QString, QString> 部門名, 費目名;
+    if (!勘定対応読込(環境, 対応) || !登録読込(環境, 登録) ||
+        !名称読込(環境, u"SELECT コード, 名称 FROM M部門"_qs, 部門名) ||
+        !名称読込(環境, u"SELECT 区分, 名称 FROM K費目区分"_qs, 費目名)) {
         エラー = u"勘定科目の対応表か支払先の登録表が読めません。"_qs;
         return false;
     }
+    税区分控 税区分;
     記録集合 rs;
     // No slip in the period is an empty export; only a statement that failed stops it.
     if (!環境.接続().業務DB検索(rs, 伝票文(指定)) && rs.列数() == 0) {
@@ -120,39 +198,44 @@ bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, con
     QMap<QString, QString> 対応なし;  // expense classes without an account, by code
     仕訳伝票 t;  // the slip being read; one object for all, so that its lines keep their memory
     bool 読取中 = false;
+    int 未登録割合 = 100;  // the share deductible from an unregistered payee on the slip's date
     // The slip read so far goes to the receiver, unless something already went wrong.
     const auto 渡す = [&] {
         if (!読取中 || !対応なし.isEmpty() || !エラー.isEmpty()) return true;
         return 受取(t, エラー);
     };
+    QString 伝票の鍵;  // the slip column of the slip being read
     for (; !rs.EOFか(); rs.MoveNext()) {
-        const QString 事業所 = rs.文字列(列_事業所);
-        const QString 基準日 = rs.文字列(列_基準日);
-        const QString 番号 = rs.文字列(列_番号);
-        if (!読取中 || t.事業所コード != 事業所 || t.番号基準日付 != 基準日 || t.出金No != 番号) {
+        const QString 伝票列 = rs.文字列(列_伝票);
+        if (!読取中 || 伝票列 != 伝票の鍵) {
             if (!渡す()) break;
             読取中 = true;
-            t.事業所コード = 事業所;
-            t.番号基準日付 = 基準日;
-            t.出金No = 番号;
-            t.出金日付 = rs.文字列(列_日付);
-            t.担当者コード = rs.文字列(列_担当者);
-            t.部門コード = rs.文字列(列_部門);
-            t.部門名 = rs.文字列(列_部門名);
+            伝票の鍵 = 伝票列;
+            const auto h = 分ける<6>(伝票列);
+            t.事業所コード = h[0].toString();
+            t.番号基準日付 = h[1].toString();
+            t.出金No = h[2].toString();
+            t.出金日付 = h[3].toString();
+            t.担当者コード = h[4].toString();
+            t.部門コード = h[5].toString();
+            t.部門名 = 部門名.value(t.部門コード);
             t.実質出金金額合計 = rs.金額値(列_伝票合計);
             t.行.clear();
+            未登録割合 = 経過措置控除割合(t.出金日付);
         }
         仕訳行& l = t.行.emplace_back();
-        l.出金行No = rs.文字列(列_行番号);
-        l.費目区分 = rs.文字列(列_費目);
-        l.費目区分名称 = rs.文字列(列_費目名);
-        l.内税外税区分 = 整数変換(rs.文字列(列_内外));
+        const QString 行列 = rs.文字列(列_行);
+        const auto d = 分ける<4>(行列);
+        l.出金行No = d[0].toString();
+        l.費目区分 = d[1].toString();
+        l.費目区分名称 = 費目名.value(l.費目区分);
+        l.内税外税区分 = 区分値(d[2]);
+        l.課税事業所区分 = d[3].toString();
         l.消費税率 = rs.金額値(列_税率);
         l.出金金額 = rs.金額値(列_金額);
         l.出金消費税 = rs.金額値(列_税額);
         l.実質出金金額 = rs.金額値(列_実質金額);
         l.支払先 = rs.文字列(列_支払先);
-        l.課税事業所区分 = rs.文字列(列_課税事業所);
         l.摘要 = rs.文字列(列_摘要);
         const auto a = 対応.constFind(l.費目区分);
         if (a == 対応.cend() || a->勘定科目.isEmpty()) {
@@ -162,9 +245,8 @@ bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, con
         l.勘定科目 = a->勘定科目;
         l.補助科目 = a->補助科目;
         l.登録番号 = 有効な登録番号(登録, l.支払先, t.出金日付);
-        l.控除割合 = l.登録番号.isEmpty() ? 経過措置控除割合(t.出金日付) : 100;
-        l.税区分 =
-            弥生仕入税区分(l.内税外税区分, l.消費税率, t.出金日付, l.控除割合, a->非課税区分);
+        l.控除割合 = l.登録番号.isEmpty() ? 未登録割合 : 100;
+        l.税区分 = 税区分.求める(l, t.出金日付, a->非課税区分);
         if (l.税区分.isEmpty() && エラー.isEmpty()) {
             エラー = u"伝票 "_qs + t.名前() + u" の "_qs + l.出金行No +
                      u" 行目の税区分が決まりません（税率 "_qs + l.消費税率.文字列() +
@@ -180,4 +262,13 @@ bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, con
         return false;
     }
     return 最後 && エラー.isEmpty();
+}
+
+int 仕訳伝票数(データ環境& 環境, const 出力指定& 指定) {
+    記録集合 rs;
+    int 数 = 0;
+    if (環境.接続().業務DB検索(rs, u"SELECT COUNT(*) FROM T出金 h"_qs + 期間の条件(指定)))
+        数 = rs.文字列(0).toInt();
+    rs.閉じる();
+    return 数;
 }

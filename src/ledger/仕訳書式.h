@@ -6,7 +6,7 @@
 
 #include "ledger/仕訳伝票.h"
 
-class CP932変換器;
+class CP932表;
 
 // The export's figures, printed at its end. 借方金額合計 adds the lines' real amounts with
 // their signs (a refund line is written with its sides swapped), so it equals the slips' total.
@@ -23,7 +23,7 @@ struct 出力集計 {
 // The rows of one slip in the 弥生 import file: one row per line, 25 columns, CP932, CRLF,
 // appended to 出力. False when a character has no CP932 form, with the slip and line named in
 // エラー; then 出力 is as it was.
-bool 弥生形式追加(CP932変換器& 変換器, const 仕訳伝票& 伝票, QByteArray& 出力, QString& エラー);
+bool 弥生形式追加(CP932表& 変換器, const 仕訳伝票& 伝票, QByteArray& 出力, QString& エラー);
 // The CSV for spreadsheets: UTF-8, RFC 4180, the header row, then one row per line with its
 // slip's header fields.
 QByteArray CSV見出し();

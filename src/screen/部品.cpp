@@ -7,7 +7,7 @@ QString 種別名(部品種別 種別) {
     static const char16_t* const 名前[] = {
         u"xField",    u"xNum",       u"xText",        u"xLabel",       u"xPass",
         u"SSCommand", u"SSPanel",    u"SSTab",        u"ListView",     u"ComboBox",
-        u"CheckBox",  u"VScrollBar", u"CommonDialog", u"OptionButton",
+        u"CheckBox",  u"VScrollBar", u"CommonDialog", u"OptionButton", u"ProgressBar",
     };
     return QString::fromUtf16(名前[static_cast<int>(種別)]);
 }
@@ -17,7 +17,8 @@ QString 部品::表記() const {
 }
 
 bool 部品::焦点を持てる種別() const {
-    return 種別 != 部品種別::xLabel && 種別 != 部品種別::SSPanel && 種別 != 部品種別::CommonDialog;
+    return 種別 != 部品種別::xLabel && 種別 != 部品種別::SSPanel &&
+           種別 != 部品種別::CommonDialog && 種別 != 部品種別::ProgressBar;
 }
 
 bool 部品::入力可(const QString& 文字列) const {

@@ -24,6 +24,7 @@ enum class 部品種別 {
     VScrollBar,
     CommonDialog,
     OptionButton,  // one of a group: choosing it turns the others of its array off
+    ProgressBar,   // shows how far a long run has come: Value between Min and Max
 };
 
 QString 種別名(部品種別 種別);

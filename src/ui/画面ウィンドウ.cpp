@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -76,6 +77,8 @@ QWidget* 作成(部品& p, QWidget* 親) {
         case 部品種別::xLabel: {
             auto* l = new QLabel(親);
             l->setAlignment(Qt::AlignCenter);
+            // A label of several lines' height breaks a long text rather than cut it.
+            l->setWordWrap(p.Height >= 2 * 330);
             return l;
         }
         case 部品種別::SSPanel: {
@@ -113,6 +116,8 @@ QWidget* 作成(部品& p, QWidget* 親) {
         }
         case 部品種別::VScrollBar:
             return new QScrollBar(Qt::Vertical, 親);
+        case 部品種別::ProgressBar:
+            return new QProgressBar(親);
         case 部品種別::CommonDialog:
             break;
     }
@@ -307,6 +312,9 @@ void ScreenWindow::反映() {
             t->setCurrentIndex(p.Value);
         } else if (auto* v = qobject_cast<QTreeWidget*>(w)) {
             行を描く(p, v);
+        } else if (auto* g = qobject_cast<QProgressBar*>(w)) {
+            g->setRange(p.Min, p.Max);
+            g->setValue(p.Value);
         }
     }
     if (部品* f = m.フォーカス()) {

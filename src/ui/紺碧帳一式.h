@@ -4,6 +4,7 @@
 
 #include "audit/wnd出金履歴.h"
 #include "audit/wnd出金検索.h"
+#include "lists/wnd支払先登録.h"
 #include "lists/一覧画面集.h"
 #include "screen/frm紺碧帳.h"
 #include "screen/msg暗証番号確認.h"
@@ -27,6 +28,7 @@ struct 紺碧帳一式 {
     一覧画面集 一覧群{セッション, モデル.画面};
     wnd出金履歴 履歴窓{セッション, モデル.画面};
     wnd出金検索 出金検索窓{セッション, モデル.画面};
+    wnd支払先登録 支払先登録{セッション, モデル.画面};
     入力画面ウィンドウ 画面{モデル};
     紺碧帳起動 起動{セッション, 画面};
 };

@@ -73,8 +73,10 @@ inline bool 弥生ファイル読取(const QString& パス, QList<弥生読取�
     }
     const QByteArray バイト = f.readAll();
     if (バイト.isEmpty()) return true;  // an export of no slip has no row
-    if (バイト.count('\n') != バイト.count("\r\n") || !バイト.endsWith("\r\n")) {
-        エラー = u"CRLF でない行がある"_qs;
+    // A carriage return or line feed stands only as the end of a row.
+    if (バイト.count('\n') != バイト.count("\r\n") || バイト.count('\r') != バイト.count("\r\n") ||
+        !バイト.endsWith("\r\n")) {
+        エラー = u"CRLF でない改行がある"_qs;
         return false;
     }
     QString 全体;

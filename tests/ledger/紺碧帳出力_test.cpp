@@ -119,7 +119,7 @@ TEST_P(弥生出力, 十五行の伝票は先頭と十三の中間と最終の�
     for (int i = 0; i < 15; ++i)
         ASSERT_TRUE(明細入力(s, i % 2 ? 1 : 3, 金額::円(100 * (i + 1)), u"東京交通"_qs,
                              u"行"_qs + QString::number(i + 1)));
-    // A slip holds fifteen lines at most: there is no sixteenth to export.
+    // Typed, a slip holds fifteen lines at most; a sixteenth comes only from a trip application.
     EXPECT_FALSE(明細入力(s, 3, 金額::円(1600), u"東京交通"_qs, u"行16"_qs));
     ASSERT_TRUE(s.新規登録処理());
     ASSERT_EQ(出力する(u"yayoi"_qs), 0);
