@@ -12,7 +12,7 @@ void 出力計測() {
     const QString 根 = 大量伝票の木(100000);
     if (根.isEmpty()) return;
     const QString 出力先 = 根 + u"/仕訳.txt"_qs;
-    for (const QString 形式 : {u"yayoi"_qs, u"csv"_qs}) {
+    for (const QString& 形式 : {u"yayoi"_qs, u"csv"_qs}) {
         std::vector<double> 時間;
         for (int i = 0; i < 5; ++i) {
             台本プラットフォーム 基盤;

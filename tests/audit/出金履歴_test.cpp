@@ -91,7 +91,7 @@ TEST_P(三度の修正, 四つの状態がその違いだけを持って新し�
     ASSERT_TRUE(位置);
     EXPECT_EQ(位置->前, u"003"_qs);
     EXPECT_EQ(位置->後, u"002"_qs);
-    for (const QString 列 : {u"費目区分"_qs, u"出金金額"_qs, u"実質出金金額"_qs, u"摘要"_qs})
+    for (const QString& 列 : {u"費目区分"_qs, u"出金金額"_qs, u"実質出金金額"_qs, u"摘要"_qs})
         EXPECT_FALSE(名前(二.変更行[0].変化).contains(列)) << 列.toStdString();
     EXPECT_EQ(二.合計後, u"4950"_qs);
 
@@ -212,7 +212,7 @@ TEST_P(削除と欠け, 引用符の摘要は置換時の行が無く不完全�
 // state, and the history numbers put the states in their order.
 TEST_P(削除と欠け, 同じ秒の修正も順に並ぶ) {
     const QString No = 伝票を打つ(u"3"_qs, 1);
-    for (const QString 額 : {u"1500"_qs, u"1700"_qs}) {
+    for (const QString& 額 : {u"1500"_qs, u"1700"_qs}) {
         呼ぶ(No);
         f->画面.操作_フォーカス(c(u"出金金額"_qs, 0));
         打ってTab(c(u"出金金額"_qs, 0), 額);

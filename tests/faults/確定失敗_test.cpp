@@ -109,7 +109,9 @@ class 確定失敗の場 : public ::testing::Test {
         // The engine's own text stands before the statement's name.
         const QString 説明 = 行.mid(4, 行.indexOf(u"COMMIT "_qs) - 4).trimmed();
         EXPECT_FALSE(説明.isEmpty()) << 行.toStdString();
-        if (!PG()) EXPECT_TRUE(説明.contains(u"full"_qs)) << 行.toStdString();
+        if (!PG()) {
+            EXPECT_TRUE(説明.contains(u"full"_qs)) << 行.toStdString();
+        }
         return i + 1 < 摘要.size() ? 摘要[i + 1] : QString();
     }
     QString 直前の行(const QString& 一括名) {

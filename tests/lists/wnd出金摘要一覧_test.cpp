@@ -115,7 +115,9 @@ TEST_P(出金摘要一覧, 千を超える摘要は千件で止まり機関に�
     EXPECT_EQ(件数, 1000);
     EXPECT_TRUE(注意);
     EXPECT_FALSE(文.contains(u"LIMIT"_qs)) << 文.toStdString();
-    if (GetParam()) EXPECT_TRUE(送った文.endsWith(u"\nLIMIT 1000"_qs)) << 送った文.toStdString();
+    if (GetParam()) {
+        EXPECT_TRUE(送った文.endsWith(u"\nLIMIT 1000"_qs)) << 送った文.toStdString();
+    }
 }
 
 TEST_P(出金摘要一覧, 検索文字列は先頭20文字の中でだけ合い否検索はその逆) {
