@@ -19,3 +19,13 @@ inline void 出金セッション準備(出金セッション& s, 試験用ツ�
     ASSERT_TRUE(起動.ユーザ情報初期化());
     ASSERT_TRUE(操作権限OK(s.データ.操作者権限().操作権限確認(u"翠嶺"_qs, u"紺碧帳"_qs, 0)));
 }
+
+// The same, and the HR link chosen and opened as the start opens it; the tree must have the HR
+// system beside it.
+inline void 連携したセッション準備(出金セッション& s, 試験用ツリー& 木) {
+    出金セッション準備(s, 木);
+    if (::testing::Test::HasFatalFailure()) return;
+    s.白樺連携フラグ = s.データ.人事連携選択(u"白樺"_qs);
+    ASSERT_TRUE(s.白樺連携フラグ);
+    ASSERT_TRUE(s.データ.人事連携開始());
+}

@@ -19,11 +19,8 @@ class 十六行の伝票出力 : public 人事連携試験 {
     void SetUp() override {
         人事連携試験::SetUp();
         if (HasFatalFailure() || IsSkipped()) return;
-        出金セッション準備(s, *木);
+        連携したセッション準備(s, *木);
         if (HasFatalFailure()) return;
-        s.白樺連携フラグ = s.データ.人事連携選択(u"白樺"_qs);
-        ASSERT_TRUE(s.白樺連携フラグ);
-        ASSERT_TRUE(s.データ.人事連携開始());
         QList<QPair<QString, QString>> 旅費;
         for (int i = 0; i < 16; ++i) 旅費.append({u"01"_qs, QString::number(1000 * (i + 1))});
         出張申請を置く(*木, u"00000055"_qs, 旅費);

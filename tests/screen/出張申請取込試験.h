@@ -19,11 +19,8 @@ class 出張申請取込 : public 人事連携試験 {
     void SetUp() override {
         人事連携試験::SetUp();
         if (HasFatalFailure() || IsSkipped()) return;
-        出金セッション準備(s, *木);
+        連携したセッション準備(s, *木);
         if (HasFatalFailure()) return;
-        s.白樺連携フラグ = s.データ.人事連携選択(u"白樺"_qs);
-        ASSERT_TRUE(s.白樺連携フラグ);
-        ASSERT_TRUE(s.データ.人事連携開始());
         ASSERT_TRUE(木->プログラムを置く(u"紺碧帳書"_qs));
         f = std::make_unique<frm紺碧帳>(s);
         f->画面読込([this] { s.出金情報初期化(); });

@@ -18,6 +18,7 @@
 #include "screen/frm紺碧帳.h"
 #include "ui/Qtプラットフォーム.h"
 #include "ui/画面ウィンドウ.h"
+#include "ui/窓の操作.h"
 
 namespace {
 
@@ -56,24 +57,15 @@ class 一覧ウィンドウ試験 : public ::testing::Test {
     // inside the click that opens it, so the operator looks for it until it is there; a window
     // that never comes is a failure, and every list is closed so that the test ends.
     void 窓で(const QString& 題, std::function<void(ScreenWindow&, 画面モデル&)> 手) {
-        auto 回 = std::make_shared<int>(0);
-        auto* 時計 = new QTimer(主窓.get());
-        QObject::connect(時計, &QTimer::timeout, [this, 題, 手, 回, 時計] {
-            for (QWidget* t : QApplication::topLevelWidgets()) {
-                auto* 窓 = dynamic_cast<ScreenWindow*>(t);
-                if (!窓 || !窓->isVisible() || 窓->windowTitle() != 題) continue;
-                時計->stop();
-                時計->deleteLater();
-                写真(窓, 題);
-                手(*窓, 集.探す(u"wnd"_qs + 題)->画面);
-                return;
-            }
-            if (++*回 < 500) return;
-            時計->stop();
-            ADD_FAILURE() << "no window " << 題.toStdString();
-            for (const auto& x : 集.全部()) 基盤.画面終了(x->画面.名前);
-        });
-        時計->start(10);
+        窓の操作::窓が出たら(
+            主窓.get(), 題,
+            [this, 題, 手](ScreenWindow& 窓) {
+                写真(&窓, 題);
+                手(窓, 集.探す(u"wnd"_qs + 題)->画面);
+            },
+            [this] {
+                for (const auto& x : 集.全部()) 基盤.画面終了(x->画面.名前);
+            });
     }
     static void 写真(QWidget* 窓, const QString& 名前) {
         QDir().mkpath(QStringLiteral(KONPEKI_ARTIFACTS));

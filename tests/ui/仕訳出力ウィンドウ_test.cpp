@@ -18,6 +18,7 @@
 #include "lists/wnd支払先登録.h"
 #include "ui/Qtプラットフォーム.h"
 #include "ui/画面ウィンドウ.h"
+#include "ui/窓の操作.h"
 
 namespace {
 
@@ -64,19 +65,7 @@ class 仕訳出力ウィンドウ : public ::testing::Test {
 
     QWidget* w(部品名 名前, int 添字 = -1) { return 窓->ウィジェット(画面.画面(名前, 添字)); }
     static void キー(Qt::Key k) { QTest::keyClick(QApplication::focusWidget(), k); }
-    // ASCII by key presses; anything else as an input method commits it.
-    static void 打つ(const QString& 文字列) {
-        QWidget* 先 = QApplication::focusWidget();
-        for (QChar ch : 文字列) {
-            if (ch.unicode() < 0x80) {
-                QTest::keyClick(先, ch.toLatin1());
-            } else {
-                QInputMethodEvent 確定;
-                確定.setCommitString(QString(ch));
-                QApplication::sendEvent(先, &確定);
-            }
-        }
-    }
+    static void 打つ(const QString& 文字列) { 窓の操作::打つ(文字列); }
 
     試験用ツリー 木;
     Qtプラットフォーム 基盤;

@@ -15,6 +15,7 @@
 #include "slip/起動処理.h"
 #include "text/台本プラットフォーム.h"
 #include "ui/入力画面ウィンドウ.h"
+#include "ui/窓の操作.h"
 
 // The real window on the sample tree, driven by real key and mouse events.
 class 入力画面ウィンドウ試験 : public ::testing::Test {
@@ -38,19 +39,7 @@ class 入力画面ウィンドウ試験 : public ::testing::Test {
         const 部品* p = f.画面.フォーカス();
         return p ? p->名前 + (p->添字 < 0 ? QString() : QString::number(p->添字)) : QString();
     }
-    // ASCII by key presses; Japanese as an input method commits it.
-    void 打つ(const QString& 文字列) {
-        QWidget* 先 = QApplication::focusWidget();
-        for (QChar ch : 文字列) {
-            if (ch.unicode() < 0x80) {
-                QTest::keyClick(先, ch.toLatin1());
-            } else {
-                QInputMethodEvent 確定;
-                確定.setCommitString(QString(ch));
-                QApplication::sendEvent(先, &確定);
-            }
-        }
-    }
+    void 打つ(const QString& 文字列) { 窓の操作::打つ(文字列); }
     void Tab() { QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); }
     void 支払先までTab() {
         for (int i = 0; i < 5 && f.画面.フォーカス()->名前 != u"支払先"; ++i) Tab();

@@ -16,6 +16,7 @@
 #include "screen/frm紺碧帳.h"
 #include "ui/Qtプラットフォーム.h"
 #include "ui/画面ウィンドウ.h"
+#include "ui/窓の操作.h"
 
 namespace {
 
@@ -51,23 +52,8 @@ class 出金検索ウィンドウ試験 : public ::testing::Test {
     // What the operator does once the search window is up; it comes up inside the key that
     // opens it, so the operator looks for it until it is there.
     void 窓で(std::function<void(ScreenWindow&)> 手) {
-        auto 回 = std::make_shared<int>(0);
-        auto* 時計 = new QTimer(主窓.get());
-        QObject::connect(時計, &QTimer::timeout, [this, 手, 回, 時計] {
-            for (QWidget* t : QApplication::topLevelWidgets()) {
-                auto* 窓 = dynamic_cast<ScreenWindow*>(t);
-                if (!窓 || !窓->isVisible() || 窓->windowTitle() != u"出金検索") continue;
-                時計->stop();
-                時計->deleteLater();
-                手(*窓);
-                return;
-            }
-            if (++*回 < 500) return;
-            時計->stop();
-            ADD_FAILURE() << "no search window";
-            基盤.画面終了(w.画面.名前);
-        });
-        時計->start(10);
+        窓の操作::窓が出たら(主窓.get(), u"出金検索"_qs, std::move(手),
+                             [this] { 基盤.画面終了(w.画面.名前); });
     }
     QWidget* 焦点の窓部品(ScreenWindow& 窓) {
         return w.画面.フォーカス() ? 窓.ウィジェット(*w.画面.フォーカス()) : nullptr;

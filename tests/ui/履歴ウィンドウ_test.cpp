@@ -15,6 +15,7 @@
 #include "screen/frm紺碧帳.h"
 #include "ui/Qtプラットフォーム.h"
 #include "ui/画面ウィンドウ.h"
+#include "ui/窓の操作.h"
 
 namespace {
 
@@ -73,32 +74,22 @@ TEST_F(履歴ウィンドウ試験, 番号を打ってF8で開き下とEnterで�
 
     QStringList 見た合計;
     int 行数 = -1;
-    auto* 時計 = new QTimer(主窓.get());
-    int 回 = 0;
-    QObject::connect(時計, &QTimer::timeout, [&] {
-        for (QWidget* t : QApplication::topLevelWidgets()) {
-            auto* 窓 = dynamic_cast<ScreenWindow*>(t);
-            if (!窓 || !窓->isVisible() || 窓->windowTitle() != u"出金伝票の履歴") continue;
-            時計->stop();
-            auto* 合計 = qobject_cast<QLabel*>(窓->ウィジェット(履歴.画面(u"lab_合計"_qs)));
-            auto* 状態 = qobject_cast<QTreeWidget*>(窓->ウィジェット(履歴.画面(u"lst_状態"_qs)));
+    窓の操作::窓が出たら(
+        主窓.get(), u"出金伝票の履歴"_qs,
+        [&](ScreenWindow& 窓) {
+            auto* 合計 = qobject_cast<QLabel*>(窓.ウィジェット(履歴.画面(u"lab_合計"_qs)));
+            auto* 状態 = qobject_cast<QTreeWidget*>(窓.ウィジェット(履歴.画面(u"lst_状態"_qs)));
             行数 = 状態 ? 状態->topLevelItemCount() : -1;
             if (合計) 見た合計 << 合計->text();
             QDir().mkpath(QStringLiteral(KONPEKI_ARTIFACTS));
-            窓->grab().save(QStringLiteral(KONPEKI_ARTIFACTS) + u"/出金伝票の履歴.png"_qs);
+            窓.grab().save(QStringLiteral(KONPEKI_ARTIFACTS) + u"/出金伝票の履歴.png"_qs);
             QWidget* 焦点 = QApplication::focusWidget();
             キー(焦点, Qt::Key_Down);
             キー(焦点, Qt::Key_Return);
             if (合計) 見た合計 << 合計->text();
             キー(QApplication::focusWidget(), Qt::Key_Escape);
-            return;
-        }
-        if (++回 > 500) {
-            時計->stop();
-            基盤.画面終了(履歴.画面.名前);
-        }
-    });
-    時計->start(10);
+        },
+        [this] { 基盤.画面終了(履歴.画面.名前); });
     キー(主の焦点(), Qt::Key_F8);
     EXPECT_EQ(行数, 2);
     // The newest state first, its first amount corrected; then the first state, all new.

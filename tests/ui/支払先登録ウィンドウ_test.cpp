@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "common/試験用ツリー.h"
+#include "ui/窓の操作.h"
 #include "ui/紺碧帳一式.h"
 
 namespace {
@@ -36,39 +37,12 @@ class 支払先登録ウィンドウ : public ::testing::Test {
     // What the operator does once the register is up; it comes up inside the key that opens
     // it, so the operator looks for it until it is there.
     void 窓で(std::function<void(ScreenWindow&)> 手) {
-        auto 回 = std::make_shared<int>(0);
-        auto* 時計 = new QTimer(主窓);
-        QObject::connect(時計, &QTimer::timeout, [this, 手, 回, 時計] {
-            for (QWidget* t : QApplication::topLevelWidgets()) {
-                auto* 窓 = dynamic_cast<ScreenWindow*>(t);
-                if (!窓 || !窓->isVisible() || 窓->windowTitle() != u"支払先登録") continue;
-                時計->stop();
-                時計->deleteLater();
-                手(*窓);
-                return;
-            }
-            if (++*回 < 500) return;
-            時計->stop();
-            ADD_FAILURE() << "no payee register";
-            一式->基盤.画面終了(u"wnd支払先登録"_qs);
-        });
-        時計->start(10);
+        窓の操作::窓が出たら(主窓, u"支払先登録"_qs, std::move(手),
+                             [this] { 一式->基盤.画面終了(u"wnd支払先登録"_qs); });
     }
     画面モデル& m() { return 一式->支払先登録.画面; }
     static void キー(Qt::Key k) { QTest::keyClick(QApplication::focusWidget(), k); }
-    // ASCII by key presses; Japanese as an input method commits it.
-    static void 打つ(const QString& 文字列) {
-        QWidget* 先 = QApplication::focusWidget();
-        for (QChar ch : 文字列) {
-            if (ch.unicode() < 0x80) {
-                QTest::keyClick(先, ch.toLatin1());
-            } else {
-                QInputMethodEvent 確定;
-                確定.setCommitString(QString(ch));
-                QApplication::sendEvent(先, &確定);
-            }
-        }
-    }
+    static void 打つ(const QString& 文字列) { 窓の操作::打つ(文字列); }
 
     試験用ツリー 木;
     std::unique_ptr<紺碧帳一式> 一式;
