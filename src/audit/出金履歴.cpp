@@ -28,6 +28,13 @@ QString 伝票状態::見出し値(QStringView 名前) const {
     return 項目の値(見出し, 名前);
 }
 
+const 履歴明細* 伝票状態::行(const QString& 出金固有行No) const {
+    for (const 履歴明細& m : 明細) {
+        if (m.出金固有行No == 出金固有行No) return &m;
+    }
+    return nullptr;
+}
+
 QString 伝票状態::合計() const {
     if (!見出し.empty()) return 見出し値(u"実質出金金額合計");
     金額 計;

@@ -39,6 +39,8 @@ struct 伝票状態 {
     QString 登録日付, 更新日付, ユーザID, 操作者名;
 
     QString 見出し値(QStringView 名前) const;
+    // The line of that 出金固有行No in this state; none when the state has no such line.
+    const 履歴明細* 行(const QString& 出金固有行No) const;
     // The slip total of the state: its header's, or the sum of its lines without a header.
     QString 合計() const;
 };

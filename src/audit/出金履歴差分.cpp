@@ -2,13 +2,6 @@
 
 namespace {
 
-const 履歴明細* 行を探す(const std::vector<履歴明細>& 明細, const QString& 固有行No) {
-    for (const 履歴明細& m : 明細) {
-        if (m.出金固有行No == 固有行No) return &m;
-    }
-    return nullptr;
-}
-
 std::vector<項目変化> 項目の差(const std::vector<項目値>& 前, const std::vector<項目値>& 後) {
     std::vector<項目変化> 変化;
     for (const 項目値& v : 後) {
@@ -34,7 +27,7 @@ std::vector<項目変化> 項目の差(const std::vector<項目値>& 前, const 
     if (!削除 && !前->見出し.empty() && !後.見出し.empty())
         d.見出し = 項目の差(前->見出し, 後.見出し);
     for (const 履歴明細& m : 後.明細) {
-        const 履歴明細* o = 行を探す(前->明細, m.出金固有行No);
+        const 履歴明細* o = 前->行(m.出金固有行No);
         if (!o) {
             d.追加行 << m.出金固有行No;
         } else if (auto 変化 = 項目の差(o->項目, m.項目); !変化.empty()) {
@@ -42,7 +35,7 @@ std::vector<項目変化> 項目の差(const std::vector<項目値>& 前, const 
         }
     }
     for (const 履歴明細& o : 前->明細) {
-        if (!行を探す(後.明細, o.出金固有行No)) d.削除行 << o.出金固有行No;
+        if (!後.行(o.出金固有行No)) d.削除行 << o.出金固有行No;
     }
     return d;
 }

@@ -16,21 +16,17 @@ QString 種別名(伝票状態::種別 何) {
     return u"以前"_qs;
 }
 
-QString 鍵の表示(const 伝票鍵& 鍵) {
-    return 鍵.事業所コード + u'-' + 鍵.番号基準日付 + u'-' + 鍵.番号;
-}
-
 }  // namespace
 
 QString 履歴文(const 出金履歴& 履歴) {
     QString 文;
     QTextStream o(&文);
-    o << u"伝票 "_qs << 鍵の表示(履歴.鍵) << u"  状態数 "_qs << 履歴.状態.size() << u'\n';
+    o << u"伝票 "_qs << 履歴.鍵.表示() << u"  状態数 "_qs << 履歴.状態.size() << u'\n';
     const std::size_t n = 履歴.状態.size();
     for (std::size_t i = 0; i < n; ++i) {
         const 伝票状態& st = 履歴.状態[i];
         const 伝票状態* 前 = i + 1 < n ? &履歴.状態[i + 1] : nullptr;
-        o << u"\n状態 "_qs << (n - i) << u' ' << 種別名(st.何) << u"  伝票 "_qs << 鍵の表示(st.鍵)
+        o << u"\n状態 "_qs << (n - i) << u' ' << 種別名(st.何) << u"  伝票 "_qs << st.鍵.表示()
           << u"  履歴No "_qs << (st.何 == 伝票状態::種別::削除 ? st.置換履歴No : st.書込履歴No)
           << u"  登録日付 "_qs << st.登録日付 << u"  更新日付 "_qs << st.更新日付
           << u"  ユーザID "_qs << st.ユーザID << u"  操作者 "_qs << st.操作者名 << u'\n';

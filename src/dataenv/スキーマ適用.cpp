@@ -1,4 +1,5 @@
 #include "dataenv/スキーマ適用.h"
+#include "text/項目編集.h"
 
 #include <QDir>
 #include <QFile>
@@ -49,10 +50,6 @@ bool データベースを作る(データ接続& 接続, const 接続先& 先, 
     }
     return SQLフォルダ実行(接続, スキーマ + u"/"_qs + 種類, エラー) &&
            SQLファイル実行(接続, スキーマ + u"/seed/"_qs + 種類 + u".sql"_qs, エラー);
-}
-
-QString 引用(const QString& s) {
-    return u"'"_qs + QString(s).replace(u"'"_qs, u"''"_qs) + u"'"_qs;
 }
 
 }  // namespace
@@ -137,15 +134,15 @@ bool 二つのデータベースを作る(const QString& 環境DB, const QString
         接続先 先;
         先.ファイル = 業務DB;
         if (!データベースを作る(業務, 先, スキーマ, 業務の種類, エラー)) return false;
-        定義 = u"UPDATE データベース定義 SET db = 'A', データソース名 = "_qs + 引用(業務DB);
+        定義 = u"UPDATE データベース定義 SET db = 'A', データソース名 = "_qs + 引用符で囲む(業務DB);
     } else {
         const 接続先 先 = PostgreSQL接続先(PostgreSQL接続情報);
         if (!データベースを作る(業務, 先, スキーマ, 業務の種類, エラー)) return false;
         const QString サーバー =
             先.ポート > 0 ? 先.ホスト + u":"_qs + QString::number(先.ポート) : 先.ホスト;
-        定義 = u"UPDATE データベース定義 SET db = 'P', サーバー名 = "_qs + 引用(サーバー) +
-               u", データベース名 = "_qs + 引用(先.データベース名) + u", ユーザーID = "_qs +
-               引用(先.ユーザー) + u", パスワード = "_qs + 引用(先.パスワード) +
+        定義 = u"UPDATE データベース定義 SET db = 'P', サーバー名 = "_qs + 引用符で囲む(サーバー) +
+               u", データベース名 = "_qs + 引用符で囲む(先.データベース名) + u", ユーザーID = "_qs +
+               引用符で囲む(先.ユーザー) + u", パスワード = "_qs + 引用符で囲む(先.パスワード) +
                u", データソース名 = ''"_qs;
     }
     if (!環境.実行(定義 + u" WHERE 情報種類 = 'GNR'"_qs)) {
@@ -197,8 +194,8 @@ bool ツリー作成(const ツリー作成指定& 指定, QString& エラー) {
         return false;
     }
     // The company keeps its attached documents and PDFs of slips inside the tree.
-    QString 文 = u"UPDATE Mユーザ SET ドキュメントフォルダ = "_qs + 引用(根 + u"/documents"_qs) +
-                 u" WHERE ID = '0001'"_qs;
+    QString 文 = u"UPDATE Mユーザ SET ドキュメントフォルダ = "_qs +
+                 引用符で囲む(根 + u"/documents"_qs) + u" WHERE ID = '0001'"_qs;
     if (!業務.実行(文)) {
         エラー = 業務.最終エラー().説明;
         return false;
@@ -215,7 +212,7 @@ bool ツリー作成(const ツリー作成指定& 指定, QString& エラー) {
                                   指定.スキーマフォルダ, u"hrlink"_qs, エラー)) {
         return false;
     }
-    文 = u"UPDATE M他業務連携 SET 連携有無区分 = 1, 連携アプリフォルダ = "_qs + 引用(人事) +
+    文 = u"UPDATE M他業務連携 SET 連携有無区分 = 1, 連携アプリフォルダ = "_qs + 引用符で囲む(人事) +
          u" WHERE コード = '002'"_qs;
     if (!業務.実行(文)) {
         エラー = 業務.最終エラー().説明;

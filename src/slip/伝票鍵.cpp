@@ -52,6 +52,10 @@ QString 伝票鍵::文字列() const {
     return 事業所コード + 番号基準日付 + 番号;
 }
 
+QString 伝票鍵::表示() const {
+    return 事業所コード + u'-' + 番号基準日付 + u'-' + 番号;
+}
+
 QString 伝票鍵::一覧の文字列() const {
     return u"C"_qs + 文字列();
 }

@@ -49,6 +49,8 @@ struct 伝票鍵 {
     // As a list row keeps it: "C" before the 19 characters, since a list key must not be
     // purely numeric.
     QString 一覧の文字列() const;
+    // As a reader sees it: "000-20260331-00000001".
+    QString 表示() const;
     // The same number sequence with another number in it.
     伝票鍵 番号替え(const QString& 別の番号) const;
     // " WHERE a = 'x' AND b = 'y' AND c = 'z'" in the table's columns; the parts go in as they

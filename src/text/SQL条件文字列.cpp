@@ -12,6 +12,10 @@ QString 引用符だけ二重化(const QString& 文字列) {
     return 結果;
 }
 
+QString 引用符で囲む(const QString& 文字列) {
+    return u'\'' + 引用符だけ二重化(文字列) + u'\'';
+}
+
 QString 引用符二重化(const QString& 文字列) {
     QString 結果 = 引用符だけ二重化(文字列);
     qsizetype n = 結果.size();

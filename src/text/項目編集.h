@@ -6,6 +6,8 @@
 QString 引用符二重化(const QString& 文字列);
 // The same without the cut: a file path keeps its blanks, since they are part of the name.
 QString 引用符だけ二重化(const QString& 文字列);
+// A value as an SQL text literal: between quotes, its own quotes doubled, nothing cut.
+QString 引用符で囲む(const QString& 文字列);
 
 // N zeros; none for N of 0 or less. "000" is the office code that stands for all offices.
 QString ゼロ文字列(int 桁数);
