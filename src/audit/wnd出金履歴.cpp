@@ -24,10 +24,6 @@ QString 種別名(種別 何) {
     return u"修正前"_qs;
 }
 
-QString 鍵の表示(const 伝票鍵& 鍵) {
-    return 鍵.事業所コード + u'-' + 鍵.番号基準日付 + u'-' + 鍵.番号;
-}
-
 QString 円(const QString& 値) {
     if (値.isEmpty()) return u"－"_qs;
     return 書式(金額::文字列から(値), u"#,##0"_qs);
@@ -38,13 +34,6 @@ QString 日時(const QString& 値) {
     if (値.size() != 15) return 値;
     return 値.mid(0, 4) + u'/' + 値.mid(4, 2) + u'/' + 値.mid(6, 2) + u' ' + 値.mid(9, 2) + u':' +
            値.mid(11, 2) + u':' + 値.mid(13, 2);
-}
-
-const 履歴明細* 行を探す(const std::vector<履歴明細>& 明細, const QString& 固有行No) {
-    for (const 履歴明細& m : 明細) {
-        if (m.出金固有行No == 固有行No) return &m;
-    }
-    return nullptr;
 }
 
 一覧項目 明細の行(const 履歴明細& m, const QString& 変化) {
@@ -103,14 +92,14 @@ void wnd出金履歴::読込() {
         return;
     }
     const int n = static_cast<int>(履歴->状態.size());
-    画面(欄::lab_伝票).Caption = u"伝票 "_qs + 鍵の表示(履歴->鍵) + u"　状態 "_qs +
-                                 QString::number(n) + u" 件（新しい順）"_qs;
+    画面(欄::lab_伝票).Caption =
+        u"伝票 "_qs + 履歴->鍵.表示() + u"　状態 "_qs + QString::number(n) + u" 件（新しい順）"_qs;
     for (int i = 0; i < n; ++i) {
         const 伝票状態& st = 履歴->状態[i];
         状態.項目追加(
             {QString::number(n - i),
              u"S"_qs + QString::number(i),
-             {種別名(st.何), 鍵の表示(st.鍵), st.何 == 種別::削除 ? st.置換履歴No : st.書込履歴No,
+             {種別名(st.何), st.鍵.表示(), st.何 == 種別::削除 ? st.置換履歴No : st.書込履歴No,
               日時(st.登録日付), 日時(st.更新日付), st.ユーザID, st.操作者名,
               st.欠け.isEmpty() ? QString() : u"不完全"_qs}});
     }
@@ -154,8 +143,7 @@ void wnd出金履歴::状態表示(int 行) {
     }
     if (前) {
         for (const QString& 固有行No : d.削除行) {
-            if (const 履歴明細* m = 行を探す(前->明細, 固有行No))
-                明細.項目追加(明細の行(*m, u"削除"_qs));
+            if (const 履歴明細* m = 前->行(固有行No)) 明細.項目追加(明細の行(*m, u"削除"_qs));
         }
     }
 }

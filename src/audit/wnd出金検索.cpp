@@ -115,8 +115,23 @@ void wnd出金検索::行を加える(記録集合& rs, int) {
 void wnd出金検索::検索() {
     検索種別 = 0;
     一覧検索実行();
+    移した伝票を除く();
     if (!検索SQL.isEmpty() && 結果.isEmpty()) 知らせ(u"該当する伝票はありません。"_qs);
     if (!結果.isEmpty()) 画面.SetFocus(一覧());
+}
+
+// Once the search's rows are all read: a statement asked in the middle of a PostgreSQL result
+// would cut the rows still to come.
+void wnd出金検索::移した伝票を除く() {
+    部品& L = 一覧();
+    QList<出金検索行> 残り;
+    for (一覧項目& 項 : L.項目取出し()) {
+        const 出金検索行& r = 結果.at(項.順 - 1);
+        if (移した伝票か(d, r)) continue;
+        残り.append(r);
+        L.項目追加(std::move(項));
+    }
+    結果 = std::move(残り);
 }
 
 void wnd出金検索::条件クリア() {

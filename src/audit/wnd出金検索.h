@@ -34,5 +34,6 @@ class wnd出金検索 : public 一覧画面 {
 
   private:
     void 知らせ(const QString& 文言);
+    void 移した伝票を除く();
     QList<出金検索行> 結果;  // in the order read, which each row's 順 keeps after a sort
 };

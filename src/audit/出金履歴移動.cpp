@@ -17,19 +17,15 @@ namespace {
 
 constexpr int 候補の上限 = 20;
 
-QString 引用(const QString& 値) {
-    return u"'"_qs + 引用符二重化(値) + u"'"_qs;
-}
-
 }  // namespace
 
 std::optional<QString> 履歴読み手::登録情報区分(const 伝票鍵& 鍵, const QString& 履歴No,
                                                 const QString& 赤黒区分) {
     const QString 文 =
         u"SELECT 登録情報区分 FROM 未集計情報 WHERE 番号ID = '16810' AND 事業所コード = "_qs +
-        引用(鍵.事業所コード) + u" AND 番号基準日付 = "_qs + 引用(鍵.番号基準日付) +
-        u" AND 伝票No = "_qs + 引用(鍵.番号) + u" AND 履歴No = "_qs + 引用(履歴No) +
-        u" AND 赤黒区分 = "_qs + 引用(赤黒区分);
+        引用符で囲む(鍵.事業所コード) + u" AND 番号基準日付 = "_qs + 引用符で囲む(鍵.番号基準日付) +
+        u" AND 伝票No = "_qs + 引用符で囲む(鍵.番号) + u" AND 履歴No = "_qs + 引用符で囲む(履歴No) +
+        u" AND 赤黒区分 = "_qs + 引用符で囲む(赤黒区分);
     接続環境& 接続 = d.接続();
     記録集合 rs;
     const bool 読めた = 未集計情報は業務DBへ(d.会社設定().会社()) ? 接続.業務DB検索(rs, 文)
@@ -48,10 +44,10 @@ std::optional<伝票鍵> 履歴読み手::移動先(const 鍵の履歴& 旧) {
     // slip's last save and before its old rows were written: the nearest such is the move.
     const QString 文 =
         u"SELECT 番号基準日付, 出金No, 出金履歴No FROM R出金明細 WHERE 赤黒区分 = '1' AND 事業所コード = "_qs +
-        引用(旧.鍵.事業所コード) + u" AND 番号基準日付 <> "_qs + 引用(旧.鍵.番号基準日付) +
-        u" AND ユーザID = "_qs + 引用(旧.終わらせた人) + u" AND 出金履歴No < "_qs +
-        引用(旧.終わりの履歴No) + u" AND 登録日付 >= "_qs + 引用(旧.最後の登録日付) +
-        u" ORDER BY 出金履歴No DESC, 登録日付 DESC"_qs;
+        引用符で囲む(旧.鍵.事業所コード) + u" AND 番号基準日付 <> "_qs +
+        引用符で囲む(旧.鍵.番号基準日付) + u" AND ユーザID = "_qs + 引用符で囲む(旧.終わらせた人) +
+        u" AND 出金履歴No < "_qs + 引用符で囲む(旧.終わりの履歴No) + u" AND 登録日付 >= "_qs +
+        引用符で囲む(旧.最後の登録日付) + u" ORDER BY 出金履歴No DESC, 登録日付 DESC"_qs;
     std::vector<std::pair<伝票鍵, QString>> 候補;
     記録集合 rs;
     if (d.接続().業務DB検索(rs, 文)) {
@@ -73,6 +69,12 @@ std::optional<伝票鍵> 履歴読み手::移動先(const 鍵の履歴& 旧) {
     return std::nullopt;
 }
 
+bool 履歴読み手::移されたか(const 伝票鍵& 鍵, const QString& 最後の履歴No) {
+    if (登録情報区分(鍵, 最後の履歴No, u"0"_qs) == u"2") return false;
+    const std::optional<鍵の履歴> 部 = 読む(鍵);
+    return 部 && 移動先(*部).has_value();
+}
+
 std::optional<伝票鍵> 履歴読み手::移動元(const 鍵の履歴& 新) {
     if (新.状態.empty()) return std::nullopt;
     const 伝票状態& 最初 = 新.状態.front();
@@ -82,8 +84,9 @@ std::optional<伝票鍵> 履歴読み手::移動元(const 鍵の履歴& 新) {
     const QString 書いた人 = 最初.ユーザID;
     const QString 文 =
         u"SELECT 番号基準日付, 出金No, MIN(出金履歴No) FROM R出金明細 WHERE 赤黒区分 = '0' AND 事業所コード = "_qs +
-        引用(新.鍵.事業所コード) + u" AND 番号基準日付 <> "_qs + 引用(新.鍵.番号基準日付) +
-        u" AND ユーザID = "_qs + 引用(書いた人) + u" AND 出金履歴No > "_qs + 引用(最初.書込履歴No) +
+        引用符で囲む(新.鍵.事業所コード) + u" AND 番号基準日付 <> "_qs +
+        引用符で囲む(新.鍵.番号基準日付) + u" AND ユーザID = "_qs + 引用符で囲む(書いた人) +
+        u" AND 出金履歴No > "_qs + 引用符で囲む(最初.書込履歴No) +
         u" GROUP BY 番号基準日付, 出金No ORDER BY 3"_qs;
     std::vector<伝票鍵> 候補;
     記録集合 rs;

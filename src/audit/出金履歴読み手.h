@@ -29,12 +29,17 @@ class 履歴読み手 {
     std::optional<伝票鍵> 移動先(const 鍵の履歴& 旧);
     // The ended key whose move made this key's first state.
     std::optional<伝票鍵> 移動元(const 鍵の履歴& 新);
-    QString 操作者名(const QString& ユーザID) const;
+    // Whether a key found in the history tables alone was moved by a correction rather than
+    // deleted; 最後の履歴No is the greatest of its old rows. A deletion's queue row says so
+    // without the rows being read.
+    bool 移されたか(const 伝票鍵& 鍵, const QString& 最後の履歴No);
+    QString 操作者名(const QString& ユーザID);
 
   private:
     // 登録情報区分 of the queue row of a history row, when the queue still holds it.
     std::optional<QString> 登録情報区分(const 伝票鍵& 鍵, const QString& 履歴No,
                                         const QString& 赤黒区分);
     データ環境& d;
-    QHash<QString, QString> 担当者;  // code → name
+    QHash<QString, QString> 担当者;  // code → name, read when the first name is asked for
+    bool 担当者読込済 = false;
 };

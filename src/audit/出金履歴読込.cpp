@@ -110,11 +110,6 @@ void 行を並べる(std::vector<履歴明細>& 明細) {
     });
 }
 
-bool 行がある(const std::vector<履歴明細>& 明細, const QString& 固有行No) {
-    return std::any_of(明細.begin(), 明細.end(),
-                       [&](const 履歴明細& m) { return m.出金固有行No == 固有行No; });
-}
-
 // The state's lines: those the stored rows (or the replacing rows) hold, and those its store
 // wrote that no later row holds. A line missing from either record makes the state incomplete.
 void 明細を揃える(伝票状態& st, const std::vector<const 明細行*>& 保存行,
@@ -122,7 +117,7 @@ void 明細を揃える(伝票状態& st, const std::vector<const 明細行*>& �
     for (const 明細行* r : 保存行) st.明細.push_back(r->明細);
     const QString 保存の語 = st.何 == 伝票状態::種別::現在 ? u"保存中の"_qs : u"置換時の"_qs;
     for (const 明細行* r : 新行) {
-        if (行がある(st.明細, r->明細.出金固有行No)) continue;
+        if (st.行(r->明細.出金固有行No)) continue;
         st.明細.push_back(r->明細);
         st.欠け << u"出金固有行No "_qs + r->明細.出金固有行No + u" の"_qs + 保存の語 +
                        u"行がありません"_qs;
@@ -144,17 +139,19 @@ void 明細を揃える(伝票状態& st, const std::vector<const 明細行*>& �
 
 }  // namespace
 
-履歴読み手::履歴読み手(データ環境& 環境) : d(環境) {
-    記録集合 rs;
-    if (d.接続().業務DB検索(rs, u"SELECT コード, 氏名 FROM M担当者"_qs)) {
-        for (; !rs.EOFか(); rs.MoveNext()) 担当者.insert(rs.文字列(0), rs.文字列(1));
-    }
-    rs.閉じる();
-}
+履歴読み手::履歴読み手(データ環境& 環境) : d(環境) {}
 
 // The user of a row is the system user, the operator's code and the computer joined without a
 // separator: the operator is the one staff code found in it, when exactly one is.
-QString 履歴読み手::操作者名(const QString& ユーザID) const {
+QString 履歴読み手::操作者名(const QString& ユーザID) {
+    if (!担当者読込済) {
+        担当者読込済 = true;
+        記録集合 rs;
+        if (d.接続().業務DB検索(rs, u"SELECT コード, 氏名 FROM M担当者"_qs)) {
+            for (; !rs.EOFか(); rs.MoveNext()) 担当者.insert(rs.文字列(0), rs.文字列(1));
+        }
+        rs.閉じる();
+    }
     QString 名;
     int 数 = 0;
     for (auto it = 担当者.begin(); it != 担当者.end(); ++it) {

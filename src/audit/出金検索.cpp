@@ -55,10 +55,6 @@ QString 含む型(const QString& 文字列) {
     return u"'%"_qs + 引用符二重化(t) + u"%' ESCAPE '!'"_qs;
 }
 
-QString 引用(const QString& 値) {
-    return u"'"_qs + 値 + u"'"_qs;
-}
-
 // Where the rows of one kind of slip come from. K holds the slip's key: a stored slip's own row,
 // which is its header too, or a deleted slip's key with the history number of its last state,
 // whose header is H. A line of the slip is L in 明細表, with 明細条件 added.
@@ -171,16 +167,19 @@ QString 出金検索文(const 出金検索条件& c) {
                  u" L"_qs + 明細の鍵(o) + u" ORDER BY L.出金行No), "_qs + H +
                  u"実質出金金額合計, (SELECT COUNT(*) FROM M付属書類 B"_qs + 書類の鍵() +
                  u"), "_qs + o.削除印 + u", "_qs + o.履歴No + o.表 + u" WHERE 1 = 1"_qs;
-    if (!c.日付から.isEmpty()) 文 += u" AND "_qs + H + u"出金日付 >= "_qs + 引用(c.日付から);
-    if (!c.日付まで.isEmpty()) 文 += u" AND "_qs + H + u"出金日付 <= "_qs + 引用(c.日付まで);
+    if (!c.日付から.isEmpty())
+        文 += u" AND "_qs + H + u"出金日付 >= "_qs + 引用符で囲む(c.日付から);
+    if (!c.日付まで.isEmpty())
+        文 += u" AND "_qs + H + u"出金日付 <= "_qs + 引用符で囲む(c.日付まで);
     if (!c.合計下限.isEmpty()) 文 += u" AND "_qs + H + u"実質出金金額合計 >= "_qs + c.合計下限;
     if (!c.合計上限.isEmpty()) 文 += u" AND "_qs + H + u"実質出金金額合計 <= "_qs + c.合計上限;
     if (!c.担当者コード.isEmpty()) {
-        文 += u" AND "_qs + H + u"担当者コード = "_qs + 引用(c.担当者コード);
+        文 += u" AND "_qs + H + u"担当者コード = "_qs + 引用符で囲む(c.担当者コード);
     }
-    if (!c.事業所コード.isEmpty()) 文 += u" AND K.事業所コード = "_qs + 引用(c.事業所コード);
-    if (!c.番号から.isEmpty()) 文 += u" AND K.出金No >= "_qs + 引用(c.番号から);
-    if (!c.番号まで.isEmpty()) 文 += u" AND K.出金No <= "_qs + 引用(c.番号まで);
+    if (!c.事業所コード.isEmpty())
+        文 += u" AND K.事業所コード = "_qs + 引用符で囲む(c.事業所コード);
+    if (!c.番号から.isEmpty()) 文 += u" AND K.出金No >= "_qs + 引用符で囲む(c.番号から);
+    if (!c.番号まで.isEmpty()) 文 += u" AND K.出金No <= "_qs + 引用符で囲む(c.番号まで);
     if (!c.明細下限.isEmpty()) 文 += 明細がある(o, u" AND L.実質出金金額 >= "_qs + c.明細下限);
     if (!c.明細上限.isEmpty()) 文 += 明細がある(o, u" AND L.実質出金金額 <= "_qs + c.明細上限);
     if (!c.支払先.isEmpty()) 文 += 明細がある(o, u" AND L.支払先 LIKE "_qs + 含む型(c.支払先));
@@ -211,14 +210,10 @@ bool 出金検索(データ環境& d, const 出金検索条件& 条件, QList<�
         結果.append(検索行を読む(rs));
     }
     rs.閉じる();
-    // A correction that moved a slip into another number sequence leaves its old key in the
-    // history tables only, as a deletion does; the slip was not deleted, so it is not listed.
-    if (成功 && 条件.削除済) {
-        履歴読み手 読み手(d);
-        結果.removeIf([&](const 出金検索行& r) {
-            const std::optional<鍵の履歴> 部 = 読み手.読む(r.鍵);
-            return 部 && 読み手.移動先(*部);
-        });
-    }
+    if (成功) 結果.removeIf([&](const 出金検索行& r) { return 移した伝票か(d, r); });
     return 成功;
+}
+
+bool 移した伝票か(データ環境& d, const 出金検索行& r) {
+    return r.削除済 && 履歴読み手(d).移されたか(r.鍵, r.出金履歴No);
 }

@@ -54,5 +54,10 @@ QString 削除済伝票文();
 QString 出金検索文(const 出金検索条件& 条件);
 出金検索行 検索行を読む(const 記録集合& rs);
 
+// A row of the deleted slips whose key a correction moved into another number sequence: it
+// stands in the history tables alone as a deleted slip does, but its slip lives on under the
+// new key, so a search does not list it.
+bool 移した伝票か(データ環境& d, const 出金検索行& r);
+
 // The search run on the general database; false when the statement failed.
 bool 出金検索(データ環境& d, const 出金検索条件& 条件, QList<出金検索行>& 結果);
