@@ -119,6 +119,24 @@ TEST_P(履歴窓, 不完全な状態はその訳と共に示す) {
     EXPECT_EQ(開いた回数, 1);
 }
 
+// A key that has neither a slip nor a history row: the window says so and offers only 戻る.
+TEST_P(履歴窓, 履歴の無い鍵ではその旨を示し戻るに焦点を置く) {
+    f->画面.状態.履歴鍵 = u"0002026033199999999"_qs;
+    QString 文言, 焦点の名;
+    int 行数 = -1;
+    窓で([&] {
+        文言 = h(欄::lab_伝票).Caption;
+        行数 = h(欄::lst_状態).項目.size();
+        焦点の名 = w->画面.フォーカス() ? w->画面.フォーカス()->名前 : QString();
+        w->画面.操作_キー(h(欄::btn_戻る), キーコード::Esc);
+    });
+    基盤.画面表示(u"wnd出金履歴"_qs, true);
+    EXPECT_EQ(文言, u"この伝票の履歴はありません。"_qs);
+    EXPECT_EQ(行数, 0);
+    EXPECT_EQ(焦点の名, u"btn_戻る"_qs);
+    EXPECT_TRUE(基盤.閉じた画面.contains(u"wnd出金履歴"_qs));
+}
+
 KONPEKI_両エンジンで(履歴窓);
 
 }  // namespace
