@@ -11,6 +11,8 @@
              QString::number(reinterpret_cast<quintptr>(this), 16)) {}
 
 データ接続::~データ接続() {
+    // Writes still waiting belong to a batch that is never committed; nobody is left for them.
+    待ち.clear();
     閉じる();
 }
 
@@ -83,6 +85,7 @@ bool データ接続::開く(const 接続先& 先) {
 }
 
 void データ接続::閉じる() {
+    待ちを送る();
     一括 = false;
     解放待ち = false;
     if (!QSqlDatabase::contains(接続名)) return;
@@ -95,6 +98,7 @@ void データ接続::閉じる() {
 
 bool データ接続::検索(記録集合& 結果, const QString& 文, int 行上限) {
     結果.閉じる();
+    待ちを送る();
     if (!開いている()) {
         エラー = {u"3704"_qs, u"接続が開かれていません。"_qs};
         return false;
@@ -116,12 +120,17 @@ bool データ接続::検索(記録集合& 結果, const QString& 文, int 行�
 }
 
 bool データ接続::実行(const QString& 文) {
+    待ちを送る();
     if (!開いている()) {
         エラー = {u"3704"_qs, u"接続が開かれていません。"_qs};
         return false;
     }
     QString 単文;
     if (!一文に(文, 単文)) return false;
+    return 単文実行(単文);
+}
+
+bool データ接続::単文実行(const QString& 単文) {
     QSqlQuery q(生接続());
     if (!文実行(q, 単文)) {
         エラー記録(q.lastError());
@@ -220,6 +229,7 @@ bool データ接続::一括内の文(QSqlQuery& q, const QString& 文) {
 }
 
 bool データ接続::一括開始() {
+    待ちを送る();
     if (一括 || !開いている() || 変換先 == SQL方言::そのまま) return true;
     if (変換先 == SQL方言::SQLite) {
         一括 = 制御文(u"BEGIN IMMEDIATE"_qs);
@@ -240,6 +250,7 @@ bool データ接続::一括開始() {
 }
 
 bool データ接続::一括終了() {
+    待ちを送る();
     if (!一括) return true;
     一括 = false;
     解放待ち = false;

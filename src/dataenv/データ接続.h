@@ -2,6 +2,8 @@
 
 #include <QSqlDatabase>
 #include <QString>
+#include <functional>
+#include <vector>
 
 #include "dataenv/SQL方言変換.h"
 #include "dataenv/記録集合.h"
@@ -56,6 +58,16 @@ class データ接続 {
     bool 一括終了();
     bool 一括中() const { return 一括; }
 
+    // A write whose answer may come later: on PostgreSQL inside a batch it waits, to go to the
+    // server with the writes behind it in one stream instead of a round trip each. The answers
+    // are handed over in order before the connection does anything else (a query, a statement,
+    // the commit), each with the result and the message the statement gives on its own.
+    // Elsewhere the statement runs at once.
+    using 結果受け = std::function<void(bool 成功, const 接続エラー& エラー)>;
+    void 後で実行(const QString& 文, 結果受け 受け);
+    // Sends the writes that wait and hands over their answers.
+    void 待ちを送る();
+
     const 接続エラー& 最終エラー() const { return エラー; }
     SQL方言 方言() const { return 変換先; }
     QSqlDatabase 生接続() const;
@@ -69,10 +81,23 @@ class データ接続 {
     // The statement as the engine gets it, translated and checked to be one statement; false
     // with a syntax error otherwise.
     bool 一文に(const QString& 文, QString& 単文);
+    bool 単文実行(const QString& 単文);
+
+    struct 待ち文 {
+        QString 単文;
+        結果受け 受け;
+        bool 送れる = true;  // false: refused before reaching the server, with 事前エラー
+        接続エラー 事前エラー;
+    };
+    // PostgreSQL: sends the statements [始め, 終わり) as one stream and answers 終わり when they
+    // all ran. Otherwise the stream is undone and the answer is the statement that failed, or
+    // 始め when the stream could not go.
+    qsizetype 流して送る(const std::vector<待ち文>& 列, qsizetype 始め, qsizetype 終わり);
 
     QString 接続名;
     SQL方言 変換先 = SQL方言::SQLite;
     接続エラー エラー;
     bool 一括 = false;
     bool 解放待ち = false;  // SQLite: the savepoint of a query whose rows may still be coming
+    std::vector<待ち文> 待ち;
 };

@@ -252,12 +252,17 @@ bool 接続環境::記録付実行(データ接続* 接続, const QString& 文, 
         エラー履歴書込(u"連携先が選ばれていません。"_qs + 文);
         return false;
     }
-    if (!接続->実行(文)) {
-        エラー履歴書込(接続->最終エラー().説明 + 文);
-        return false;
+    const bool 成功 = 接続->実行(文);
+    実行の記録(成功, 接続->最終エラー(), 文, 履歴);
+    return 成功;
+}
+
+void 接続環境::実行の記録(bool 成功, const 接続エラー& エラー, const QString& 文, bool 履歴) {
+    if (!成功) {
+        エラー履歴書込(エラー.説明 + 文);
+    } else if (履歴) {
+        出力履歴書込(文);
     }
-    if (履歴) 出力履歴書込(文);
-    return true;
 }
 
 bool 接続環境::業務DB検索(記録集合& 結果, const QString& 文, bool 履歴) {
@@ -270,6 +275,13 @@ bool 接続環境::一覧検索(記録集合& 結果, const QString& 文, int �
 
 bool 接続環境::業務DB実行(const QString& 文, bool 履歴) {
     return 記録付実行(&業務接続, 文, 履歴);
+}
+
+void 接続環境::業務DB後で実行(const QString& 文, std::function<void(bool 成功)> 受け, bool 履歴) {
+    業務接続.後で実行(文, [this, 文, 履歴, 受け = std::move(受け)](bool 成功, const 接続エラー& e) {
+        実行の記録(成功, e, 文, 履歴);
+        受け(成功);
+    });
 }
 
 void 接続環境::業務DB一括開始(const QString& 名) {

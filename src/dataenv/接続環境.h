@@ -67,6 +67,9 @@ class 接続環境 {
 
     bool 業務DB検索(記録集合& 結果, const QString& 文, bool 履歴 = false);
     bool 業務DB実行(const QString& 文, bool 履歴 = false);
+    // A write of a store whose answer may come later (データ接続::後で実行): it is logged, and
+    // its result handed to 受け, when the answer comes, in the order the writes were given.
+    void 業務DB後で実行(const QString& 文, std::function<void(bool 成功)> 受け, bool 履歴 = false);
     bool 環境DB検索(記録集合& 結果, const QString& 文);
     bool 環境DB実行(const QString& 文);
     bool 環境DB実行記録付(const QString& 文);
@@ -126,6 +129,8 @@ class 接続環境 {
     // A statement on one of the connections, its failure in the run history.
     bool 記録付検索(データ接続* 接続, 記録集合& 結果, const QString& 文, bool 履歴, int 行上限 = 0);
     bool 記録付実行(データ接続* 接続, const QString& 文, bool 履歴);
+    // The history row of a statement that ran: its failure, or its text when it is traced.
+    void 実行の記録(bool 成功, const 接続エラー& エラー, const QString& 文, bool 履歴);
     データ接続* 連携業務接続();  // the general connection of the slot in use, if any
     void 連携利用者別環境準備();
     void 連携定義読込(連携スロット環境& L);

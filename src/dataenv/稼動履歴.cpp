@@ -5,6 +5,8 @@
 // Every row of the run history goes straight to the configuration connection; a failure to
 // write it is swallowed, so tracing never stops work.
 void 接続環境::履歴書込(const QString& 摘要) {
+    // The rows of writes still waiting for their answers come first, in their order.
+    業務接続.待ちを送る();
     稼動カウンタ_ += 1;
     const QString 日時 = 基盤_.現在時刻().toString(u"yyyyMMdd HHmmss"_qs);
     const QString カウンタ =

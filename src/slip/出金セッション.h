@@ -245,6 +245,8 @@ class 出金セッション {
     bool 行あり(const QString& 文);
     void 挿入結果(bool 成功);
     void 削除結果(bool 成功);
+    void 挿入を送る(const QString& 文, bool 履歴 = false);
+    void 削除を送る(const QString& 文, bool 履歴 = false);
     bool 隣接読込(bool 前);
     bool 出張申請適用(const QString& 入力No, std::optional<QString>& 答え);
     void 日程連携更新(const QString& 設定);

@@ -1,0 +1,114 @@
+#include <libpq-fe.h>
+
+#include <QSqlDriver>
+#include <algorithm>
+
+#include "dataenv/データ接続.h"
+
+namespace {
+
+// A stream longer than this is cut, so that neither side's buffer fills while the other waits.
+constexpr qsizetype 一度に送る最大 = 200;
+
+PGconn* 生ハンドル(const QSqlDatabase& db) {
+    const QVariant v = db.driver()->handle();
+    // Qt 6 names the type by the structure behind libpq's typedef.
+    if (!v.isValid() ||
+        (qstrcmp(v.typeName(), "PGconn*") != 0 && qstrcmp(v.typeName(), "pg_conn*") != 0)) {
+        return nullptr;
+    }
+    return *static_cast<PGconn* const*>(v.constData());
+}
+
+bool 送る(PGconn* c, const char* 文) {
+    return PQsendQueryParams(c, 文, 0, nullptr, nullptr, nullptr, nullptr, 0) == 1;
+}
+
+}  // namespace
+
+void データ接続::後で実行(const QString& 文, 結果受け 受け) {
+    if (!一括 || 変換先 != SQL方言::PostgreSQL || !開いている()) {
+        const bool 成功 = 実行(文);
+        受け(成功, エラー);
+        return;
+    }
+    待ち文 w;
+    w.受け = std::move(受け);
+    if (!一文に(文, w.単文)) {
+        w.送れる = false;
+        w.事前エラー = エラー;
+    }
+    待ち.push_back(std::move(w));
+    if (static_cast<qsizetype>(待ち.size()) >= 一度に送る最大) 待ちを送る();
+}
+
+void データ接続::待ちを送る() {
+    if (待ち.empty()) return;
+    std::vector<待ち文> 列;
+    列.swap(待ち);
+    const auto 数 = static_cast<qsizetype>(列.size());
+    std::vector<std::pair<bool, 接続エラー>> 結果(列.size(), {true, 接続エラー{}});
+    for (qsizetype i = 0; i < 数;) {
+        qsizetype 終わり = i;
+        while (終わり < 数 && 列[終わり].送れる) ++終わり;
+        // A stream with a failure in it is undone whole; it goes again up to that statement.
+        while (終わり > i) {
+            const qsizetype 失敗 = 流して送る(列, i, 終わり);
+            if (失敗 == 終わり) break;
+            終わり = 失敗;
+        }
+        i = 終わり;
+        if (i == 数) break;
+        // The statement where the stream stopped runs alone, as any statement of a batch does,
+        // so its result and its message are what they are without the stream.
+        if (!列[i].送れる) {
+            結果[i] = {false, 列[i].事前エラー};
+        } else {
+            const bool 成功 = 単文実行(列[i].単文);
+            結果[i] = {成功, 成功 ? 接続エラー{} : エラー};
+        }
+        ++i;
+    }
+    for (qsizetype i = 0; i < 数; ++i) {
+        if (!結果[i].first) エラー = 結果[i].second;
+        列[i].受け(結果[i].first, 結果[i].second);
+    }
+}
+
+// The statements go one behind the other in the savepoint that stands for the next statement,
+// and its release and the savepoint for the one after them close the stream. After a failure
+// the server skips the rest, and the savepoint undoes what the stream did.
+qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qsizetype 始め, qsizetype 終わり) {
+    PGconn* c = 生ハンドル(生接続());
+    if (c == nullptr || PQtransactionStatus(c) != PQTRANS_INTRANS || !PQenterPipelineMode(c)) {
+        return 始め;
+    }
+    bool 送った = true;
+    for (qsizetype i = 始め; 送った && i < 終わり; ++i)
+        送った = 送る(c, 列[i].単文.toUtf8().constData());
+    送った = 送った && 送る(c, "RELEASE SAVEPOINT konpeki_stmt") &&
+             送る(c, "SAVEPOINT konpeki_stmt") && PQpipelineSync(c) == 1;
+    // The answers come one per command, each followed by an empty one; the sync's ends them.
+    qsizetype 番 = 0, 失敗位置 = 終わり;
+    bool 失敗あり = !送った, 同期 = false;
+    while (送った && !同期 && PQstatus(c) == CONNECTION_OK) {
+        PGresult* r = PQgetResult(c);
+        if (r == nullptr) {
+            ++番;
+            continue;
+        }
+        const ExecStatusType 状態 = PQresultStatus(r);
+        PQclear(r);
+        if (状態 == PGRES_PIPELINE_SYNC) {
+            同期 = true;
+        } else if (状態 != PGRES_COMMAND_OK && 状態 != PGRES_TUPLES_OK && !失敗あり) {
+            失敗あり = true;
+            失敗位置 = std::min(始め + 番, 終わり);
+        }
+    }
+    PQexitPipelineMode(c);
+    if (!失敗あり && 同期) return 終わり;
+    制御文(u"ROLLBACK TO SAVEPOINT konpeki_stmt"_qs);
+    // A statement that failed is where the stream stops; one that did not answer is sent again.
+    return 失敗あり && 失敗位置 < 終わり ? 失敗位置 : 始め;
+}
