@@ -193,6 +193,16 @@ TEST_P(一括実行, 多くの書込も一つ残らず答えが渡る) {
         const QString 値 = i % 100 == 50 ? u"重複"_qs : QString::number(10000 + i);
         送る(u"INSERT INTO 試験表 (値) VALUES ('"_qs + 値 + u"')"_qs, 答え);
     }
+    環境.接続().業務DB().待ちを送る();
+    if (GetParam()) {
+        // The last writes went as one stream: the server's last command is the savepoint that
+        // closes it, not a message of a statement and its savepoint commands.
+        const auto 行 = 木->業務DB行(
+            u"SELECT query FROM pg_stat_activity WHERE datname = current_database() "
+            u"AND pid <> pg_backend_pid() AND backend_type = 'client backend'"_qs);
+        ASSERT_EQ(行.size(), 1);
+        EXPECT_EQ(行[0][0].toString(), u"SAVEPOINT konpeki_stmt"_qs);
+    }
     ASSERT_TRUE(環境.接続().業務DB一括終了());
     ASSERT_EQ(答え.size(), 450u);
     for (int i = 0; i < 450; ++i) EXPECT_EQ(答え[i], i % 100 == 50 ? 0 : 1) << i;
