@@ -3,6 +3,7 @@
 #include <QSqlDatabase>
 #include <QString>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "dataenv/SQL方言変換.h"
@@ -86,8 +87,7 @@ class データ接続 {
     struct 待ち文 {
         QString 単文;
         結果受け 受け;
-        bool 送れる = true;  // false: refused before reaching the server, with 事前エラー
-        接続エラー 事前エラー;
+        std::optional<接続エラー> 事前エラー;  // refused before reaching the server
     };
     // PostgreSQL: sends the statements [始め, 終わり) as one stream and answers 終わり when they
     // all ran. Otherwise the stream is undone and the answer is the statement that failed, or

@@ -34,10 +34,7 @@ void データ接続::後で実行(const QString& 文, 結果受け 受け) {
     }
     待ち文 w;
     w.受け = std::move(受け);
-    if (!一文に(文, w.単文)) {
-        w.送れる = false;
-        w.事前エラー = エラー;
-    }
+    if (!一文に(文, w.単文)) w.事前エラー = エラー;
     待ち.push_back(std::move(w));
     if (static_cast<qsizetype>(待ち.size()) >= 一度に送る最大) 待ちを送る();
 }
@@ -50,7 +47,7 @@ void データ接続::待ちを送る() {
     std::vector<std::pair<bool, 接続エラー>> 結果(列.size(), {true, 接続エラー{}});
     for (qsizetype i = 0; i < 数;) {
         qsizetype 終わり = i;
-        while (終わり < 数 && 列[終わり].送れる) ++終わり;
+        while (終わり < 数 && !列[終わり].事前エラー) ++終わり;
         // A stream with a failure in it is undone whole; it goes again up to that statement.
         while (終わり > i) {
             const qsizetype 失敗 = 流して送る(列, i, 終わり);
@@ -61,8 +58,8 @@ void データ接続::待ちを送る() {
         if (i == 数) break;
         // The statement where the stream stopped runs alone, as any statement of a batch does,
         // so its result and its message are what they are without the stream.
-        if (!列[i].送れる) {
-            結果[i] = {false, 列[i].事前エラー};
+        if (列[i].事前エラー) {
+            結果[i] = {false, *列[i].事前エラー};
         } else {
             const bool 成功 = 単文実行(列[i].単文);
             結果[i] = {成功, 成功 ? 接続エラー{} : エラー};
