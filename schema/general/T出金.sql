@@ -37,7 +37,7 @@ CREATE INDEX T出金_伝票キー ON T出金 (事業所コード, 番号基準�
 -- Stepping to the previous and next slip of an office
 CREATE INDEX T出金_事業所日付順 ON T出金 (事業所コード, 出金日付, 出金No);
 -- Slip list over all offices, and the slips of one day and staff member
-CREATE INDEX T出金_日付順 ON T出金 (出金日付, 出金No);
+CREATE INDEX T出金_日付順 ON T出金 (出金日付, 出金No, 事業所コード, 番号基準日付);
 -- The slip list's number search: by number, then the newest date first
 CREATE INDEX T出金_番号順 ON T出金 (出金No, 出金日付);
 -- The slip list's person search, and the entry screen's staff preset: one person's slips, newest

@@ -69,6 +69,23 @@ class データ接続 {
     // Sends the writes that wait and hands over their answers.
     void 待ちを送る();
 
+    // One row of a long read, its columns by place in the order of the SELECT. Null reads as
+    // "" and 0, as 記録集合 reads it.
+    class 読取行 {
+      public:
+        virtual ~読取行() = default;
+        virtual QString 文字列(int 列) const = 0;
+        virtual 金額 金額値(int 列) const = 0;
+        // Whether the column's text is the one given, without making a text of it.
+        virtual bool 等しい(int 列, const QString& 値) const { return 文字列(列) == 値; }
+    };
+    // Hands every row of a query in turn to the receiver, which answers False to stop. On
+    // SQLite outside a batch the rows come straight from the engine, so that a long read costs
+    // no Qt value per field. True when the statement ran, an empty result included; a statement
+    // the engine refuses fails with the error 検索 gives.
+    using 行受け = std::function<bool(const 読取行& 行)>;
+    bool 逐次検索(const QString& 文, const 行受け& 受け);
+
     const 接続エラー& 最終エラー() const { return エラー; }
     SQL方言 方言() const { return 変換先; }
     QSqlDatabase 生接続() const;
@@ -83,6 +100,9 @@ class データ接続 {
     // with a syntax error otherwise.
     bool 一文に(const QString& 文, QString& 単文);
     bool 単文実行(const QString& 単文);
+    // SQLite: the statement's rows from the engine itself; nullopt when it could not be
+    // prepared there, for the usual path to run it and give its error.
+    std::optional<bool> 直接読む(const QString& 単文, const 行受け& 受け);
 
     struct 待ち文 {
         QString 単文;

@@ -269,6 +269,12 @@ bool 接続環境::業務DB検索(記録集合& 結果, const QString& 文, bool
     return 記録付検索(&業務接続, 結果, 文, 履歴);
 }
 
+bool 接続環境::業務DB逐次検索(const QString& 文, const データ接続::行受け& 受け) {
+    if (業務接続.逐次検索(文, 受け)) return true;
+    エラー履歴書込(業務接続.最終エラー().説明 + 文);
+    return false;
+}
+
 bool 接続環境::一覧検索(記録集合& 結果, const QString& 文, int 行上限, bool 連携) {
     return 記録付検索(連携 ? 連携業務接続() : &業務接続, 結果, 文, false, 行上限);
 }

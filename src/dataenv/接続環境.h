@@ -67,6 +67,9 @@ class 接続環境 {
 
     bool 業務DB検索(記録集合& 結果, const QString& 文, bool 履歴 = false);
     bool 業務DB実行(const QString& 文, bool 履歴 = false);
+    // A long read, row by row (データ接続::逐次検索); a failure is logged as a search's. True
+    // when the statement ran, whether it had rows or not.
+    bool 業務DB逐次検索(const QString& 文, const データ接続::行受け& 受け);
     // A write of a store whose answer may come later (データ接続::後で実行): it is logged, and
     // its result handed to 受け, when the answer comes, in the order the writes were given.
     void 業務DB後で実行(const QString& 文, std::function<void(bool 成功)> 受け, bool 履歴 = false);

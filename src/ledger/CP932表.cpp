@@ -27,7 +27,8 @@ bool CP932表::追加(QStringView 文字列, QByteArray& 出力, qsizetype& 不�
             *出++ = static_cast<char>(u);
             continue;
         }
-        const quint32 値 = 引く(u);
+        quint32 値 = 表[u];  // known already, but for the first time a unit is met
+        if (値 == 0) 値 = 引く(u);
         if (値 == 無し) {
             不可位置 = i;
             出力.resize(元の長さ);

@@ -1,7 +1,5 @@
 #include <QHash>
 #include <QMap>
-#include <array>
-#include <initializer_list>
 #include <vector>
 
 #include "dataenv/データ環境.h"
@@ -105,14 +103,19 @@ class 税区分控 {
     std::vector<控> 控群;
 };
 
-// The columns of the read, in the order of the SELECT; rows are read by place. The short codes
-// of the slip and of the line come joined by "|" in one column each (codes are digits), so that
-// a line costs the engine and the driver four texts instead of twelve; a new slip shows as
-// another slip column.
+// The columns of the read, in the order of the SELECT; rows are read by place.
 enum 列 {
-    列_伝票,  // 事業所コード|番号基準日付|出金No|出金日付|担当者コード|部門コード
+    列_事業所コード,
+    列_番号基準日付,
+    列_出金No,
+    列_出金日付,
+    列_担当者コード,
+    列_部門コード,
     列_伝票合計,
-    列_行,  // 出金行No|費目区分|内税外税区分|課税事業所区分
+    列_出金行No,
+    列_費目区分,
+    列_内税外税区分,
+    列_課税事業所区分,
     列_税率,
     列_金額,
     列_税額,
@@ -120,17 +123,6 @@ enum 列 {
     列_支払先,
     列_摘要,
 };
-
-// The statement's text of codes joined by "|", a missing one as empty text: one format() of
-// the engine, which both engines have, makes the text in one piece.
-QString 連結(std::initializer_list<const char16_t*> 列名) {
-    QString 型, 引数;
-    for (const char16_t* 名 : 列名) {
-        型 += 型.isEmpty() ? u"%s"_qs : u"|%s"_qs;
-        引数 += u", "_qs + QString::fromUtf16(名);
-    }
-    return u"format('"_qs + 型 + u"'"_qs + 引数 + u")"_qs;
-}
 
 // The slips of the period, of one office or all.
 QString 期間の条件(const 出力指定& 指定) {
@@ -141,33 +133,19 @@ QString 期間の条件(const 出力指定& 指定) {
     return 文;
 }
 
-QString 伝票文(const 出力指定& 指定) {
-    // Date and number first, as the date index stands, so that only slips of one number on
-    // one day are sorted further.
-    return u"SELECT "_qs +
-           連結({u"h.事業所コード", u"h.番号基準日付", u"h.出金No", u"h.出金日付",
-                 u"h.担当者コード", u"h.部門コード"}) +
-           u", h.実質出金金額合計, "_qs +
-           連結({u"d.出金行No", u"d.費目区分", u"d.内税外税区分", u"d.課税事業所区分"}) +
-           u", d.消費税率, d.出金金額, d.出金消費税, d.実質出金金額, d.支払先, d.摘要 "
-           u"FROM T出金 h INNER JOIN T出金明細 d ON d.事業所コード = h.事業所コード "
+QString 伝票文(const 出力指定& 指定, SQL方言 方言) {
+    // The order is the date index's, and on SQLite the header's row id after it makes each
+    // header's place distinct, so that the engine walks the lines in order instead of sorting
+    // them all.
+    const QString 行の順 = 方言 == SQL方言::SQLite ? u"h.rowid, "_qs : QString();
+    return u"SELECT h.事業所コード, h.番号基準日付, h.出金No, h.出金日付, h.担当者コード, "
+           u"h.部門コード, h.実質出金金額合計, d.出金行No, d.費目区分, d.内税外税区分, "
+           u"d.課税事業所区分, d.消費税率, d.出金金額, d.出金消費税, d.実質出金金額, d.支払先, "
+           u"d.摘要 FROM T出金 h INNER JOIN T出金明細 d ON d.事業所コード = h.事業所コード "
            u"AND d.番号基準日付 = h.番号基準日付 AND d.出金No = h.出金No"_qs +
            期間の条件(指定) +
-           u" ORDER BY h.出金日付, h.出金No, h.事業所コード, h.番号基準日付, d.出金行No"_qs;
-}
-
-// Takes the joined codes apart, in their order; a part missing is empty.
-template <std::size_t N>
-std::array<QStringView, N> 分ける(QStringView 連結文字列) {
-    std::array<QStringView, N> 部分;
-    qsizetype 始 = 0;
-    for (std::size_t i = 0; i < N && 始 <= 連結文字列.size(); ++i) {
-        qsizetype 終 = 連結文字列.indexOf(u'|', 始);
-        if (終 < 0 || i == N - 1) 終 = 連結文字列.size();
-        部分[i] = 連結文字列.mid(始, 終 - 始);
-        始 = 終 + 1;
-    }
-    return 部分;
+           u" ORDER BY h.出金日付, h.出金No, h.事業所コード, h.番号基準日付, "_qs + 行の順 +
+           u"d.出金行No"_qs;
 }
 
 short 区分値(QStringView 文字) {
@@ -188,59 +166,53 @@ bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, con
         return false;
     }
     税区分控 税区分;
-    記録集合 rs;
-    // No slip in the period is an empty export; only a statement that failed stops it.
-    if (!環境.接続().業務DB検索(rs, 伝票文(指定)) && rs.列数() == 0) {
-        rs.閉じる();
-        エラー = u"伝票が読めません。"_qs;
-        return false;
-    }
     QMap<QString, QString> 対応なし;  // expense classes without an account, by code
     仕訳伝票 t;  // the slip being read; one object for all, so that its lines keep their memory
     bool 読取中 = false;
     int 未登録割合 = 100;  // the share deductible from an unregistered payee on the slip's date
+    bool 受取続行 = true;
     // The slip read so far goes to the receiver, unless something already went wrong.
     const auto 渡す = [&] {
         if (!読取中 || !対応なし.isEmpty() || !エラー.isEmpty()) return true;
         return 受取(t, エラー);
     };
-    QString 伝票の鍵;  // the slip column of the slip being read
-    for (; !rs.EOFか(); rs.MoveNext()) {
-        const QString 伝票列 = rs.文字列(列_伝票);
-        if (!読取中 || 伝票列 != 伝票の鍵) {
-            if (!渡す()) break;
+    // A slip is known by its key and date; the lines of one header come together.
+    const auto 同じ伝票 = [&](const データ接続::読取行& r) {
+        return 読取中 && r.等しい(列_出金No, t.出金No) && r.等しい(列_出金日付, t.出金日付) &&
+               r.等しい(列_事業所コード, t.事業所コード) &&
+               r.等しい(列_番号基準日付, t.番号基準日付);
+    };
+    const auto 行を読む = [&](const データ接続::読取行& r) {
+        if (!同じ伝票(r)) {
+            if (!渡す()) return 受取続行 = false;
             読取中 = true;
-            伝票の鍵 = 伝票列;
-            const auto h = 分ける<6>(伝票列);
-            t.事業所コード = h[0].toString();
-            t.番号基準日付 = h[1].toString();
-            t.出金No = h[2].toString();
-            t.出金日付 = h[3].toString();
-            t.担当者コード = h[4].toString();
-            t.部門コード = h[5].toString();
+            t.事業所コード = r.文字列(列_事業所コード);
+            t.番号基準日付 = r.文字列(列_番号基準日付);
+            t.出金No = r.文字列(列_出金No);
+            t.出金日付 = r.文字列(列_出金日付);
+            t.担当者コード = r.文字列(列_担当者コード);
+            t.部門コード = r.文字列(列_部門コード);
             t.部門名 = 部門名.value(t.部門コード);
-            t.実質出金金額合計 = rs.金額値(列_伝票合計);
+            t.実質出金金額合計 = r.金額値(列_伝票合計);
             t.行.clear();
             未登録割合 = 経過措置控除割合(t.出金日付);
         }
         仕訳行& l = t.行.emplace_back();
-        const QString 行列 = rs.文字列(列_行);
-        const auto d = 分ける<4>(行列);
-        l.出金行No = d[0].toString();
-        l.費目区分 = d[1].toString();
+        l.出金行No = r.文字列(列_出金行No);
+        l.費目区分 = r.文字列(列_費目区分);
         l.費目区分名称 = 費目名.value(l.費目区分);
-        l.内税外税区分 = 区分値(d[2]);
-        l.課税事業所区分 = d[3].toString();
-        l.消費税率 = rs.金額値(列_税率);
-        l.出金金額 = rs.金額値(列_金額);
-        l.出金消費税 = rs.金額値(列_税額);
-        l.実質出金金額 = rs.金額値(列_実質金額);
-        l.支払先 = rs.文字列(列_支払先);
-        l.摘要 = rs.文字列(列_摘要);
+        l.内税外税区分 = 区分値(r.文字列(列_内税外税区分));
+        l.課税事業所区分 = r.文字列(列_課税事業所区分);
+        l.消費税率 = r.金額値(列_税率);
+        l.出金金額 = r.金額値(列_金額);
+        l.出金消費税 = r.金額値(列_税額);
+        l.実質出金金額 = r.金額値(列_実質金額);
+        l.支払先 = r.文字列(列_支払先);
+        l.摘要 = r.文字列(列_摘要);
         const auto a = 対応.constFind(l.費目区分);
         if (a == 対応.cend() || a->勘定科目.isEmpty()) {
             対応なし.insert(l.費目区分, l.費目区分名称);
-            continue;
+            return true;
         }
         l.勘定科目 = a->勘定科目;
         l.補助科目 = a->補助科目;
@@ -252,9 +224,14 @@ bool 仕訳伝票読込(データ環境& 環境, const 出力指定& 指定, con
                      u" 行目の税区分が決まりません（税率 "_qs + l.消費税率.文字列() +
                      u"%、非課税区分「"_qs + a->非課税区分 + u"」）。"_qs;
         }
+        return true;
+    };
+    // No slip in the period is an empty export; only a statement that failed stops it.
+    if (!環境.接続().業務DB逐次検索(伝票文(指定, 環境.接続().業務DB().方言()), 行を読む)) {
+        エラー = u"伝票が読めません。"_qs;
+        return false;
     }
-    const bool 最後 = 渡す();
-    rs.閉じる();
+    const bool 最後 = 受取続行 && 渡す();
     if (!対応なし.isEmpty()) {
         エラー = u"勘定科目の対応がない費目区分があります。何も出力しませんでした。"_qs;
         for (auto it = 対応なし.cbegin(); it != 対応なし.cend(); ++it)

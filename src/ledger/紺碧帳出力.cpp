@@ -1,8 +1,7 @@
 #include "ledger/紺碧帳出力.h"
 
-#include <QSaveFile>
-
 #include "ledger/CP932表.h"
+#include "ledger/出力ファイル.h"
 #include "text/プラットフォーム.h"
 #include "text/数値書式.h"
 
@@ -44,9 +43,11 @@ void 紺碧帳出力::終了() {
 }
 
 bool 紺碧帳出力::出力(const 出力指定& 指定) {
-    // Read and formatted slip by slip into memory; the file is written only when all is whole.
+    // Read and formatted slip by slip, and written under a temporary name that takes the
+    // target's place only when all is whole.
     const bool 弥生 = 指定.形式 == u"yayoi";
     QByteArray 内容 = 弥生 ? QByteArray() : CSV見出し();
+    出力ファイル 先(指定.出力先);
     CP932表 変換器;
     集計 = {};
     結果文言.clear();
@@ -56,8 +57,9 @@ bool 紺碧帳出力::出力(const 出力指定& 指定) {
         [&](const 仕訳伝票& t, QString& e) {
             集計.追加(t);
             if (進捗) 進捗(集計.伝票数);
-            if (弥生) return 弥生形式追加(変換器, t, 内容, e);
-            CSV形式追加(t, 内容);
+            if (弥生 && !弥生形式追加(変換器, t, 内容, e)) return false;
+            if (!弥生) CSV形式追加(t, 内容);
+            先.溜まれば送る(内容);
             return true;
         },
         拒否文言);
@@ -68,7 +70,7 @@ bool 紺碧帳出力::出力(const 出力指定& 指定) {
                    u" と一致しません。何も出力しませんでした。"_qs;
         return false;
     }
-    if (!書き出す(指定.出力先, 内容)) {
+    if (!先.仕上げる(内容)) {
         拒否文言 = u"ファイルを書き込めませんでした。\n"_qs + 指定.出力先;
         return false;
     }
@@ -82,15 +84,4 @@ bool 紺碧帳出力::出力(const 出力指定& 指定) {
     s.データ.接続().出力履歴書込(u"仕訳出力 "_qs + 指定.形式 + u" "_qs + 指定.開始日 + u"-"_qs +
                                  指定.終了日 + u" "_qs + 結果文言);
     return true;
-}
-
-bool 紺碧帳出力::書き出す(const QString& パス, const QByteArray& 内容) {
-    // Written beside the target under a temporary name and renamed over it when whole.
-    QSaveFile f(パス);
-    if (!f.open(QIODevice::WriteOnly)) return false;
-    if (f.write(内容) != 内容.size()) {
-        f.cancelWriting();
-        return false;
-    }
-    return f.commit();
 }

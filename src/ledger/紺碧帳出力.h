@@ -37,7 +37,6 @@ class 紺碧帳出力 {
 
   private:
     int 拒否();
-    bool 書き出す(const QString& パス, const QByteArray& 内容);
 
     画面なし 画面;
     紺碧帳起動 起動{s, 画面};
