@@ -88,6 +88,7 @@ void データ接続::閉じる() {
     待ちを送る();
     一括 = false;
     解放待ち = false;
+    用意済み.clear();  // they end with the session
     if (!QSqlDatabase::contains(接続名)) return;
     {
         QSqlDatabase db = QSqlDatabase::database(接続名, false);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QSqlDatabase>
 #include <QString>
 #include <functional>
@@ -120,4 +121,8 @@ class データ接続 {
     bool 一括 = false;
     bool 解放待ち = false;  // SQLite: the savepoint of a query whose rows may still be coming
     std::vector<待ち文> 待ち;
+    // PostgreSQL: the inserts prepared on this connection, by text and parameter types, and the
+    // number of the last name given.
+    QHash<QByteArray, QByteArray> 用意済み;
+    int 用意番号 = 0;
 };

@@ -4,11 +4,14 @@
 #include <algorithm>
 
 #include "dataenv/データ接続.h"
+#include "dataenv/挿入の引数化.h"
 
 namespace {
 
 // A stream longer than this is cut, so that neither side's buffer fills while the other waits.
 constexpr qsizetype 一度に送る最大 = 200;
+// Prepared inserts a connection keeps at most; further kinds go as their text.
+constexpr qsizetype 用意の上限 = 500;
 
 PGconn* 生ハンドル(const QSqlDatabase& db) {
     const QVariant v = db.driver()->handle();
@@ -80,13 +83,41 @@ qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qs
     if (c == nullptr || PQtransactionStatus(c) != PQTRANS_INTRANS || !PQenterPipelineMode(c)) {
         return 始め;
     }
+    // The statement each command belongs to (終わり for the closing ones), and the statements
+    // prepared in this stream, by their command.
+    std::vector<qsizetype> 命令の文;
+    std::vector<std::pair<std::size_t, std::pair<QByteArray, QByteArray>>> 用意中;
     bool 送った = true;
-    for (qsizetype i = 始め; 送った && i < 終わり; ++i)
-        送った = 送る(c, 列[i].単文.toUtf8().constData());
+    for (qsizetype i = 始め; 送った && i < 終わり; ++i) {
+        引数付き挿入 a;
+        if (!挿入を引数に(列[i].単文, a) ||
+            (用意済み.size() >= 用意の上限 && !用意済み.contains(a.鍵()))) {
+            送った = 送る(c, 列[i].単文.toUtf8().constData());
+            命令の文.push_back(i);
+            continue;
+        }
+        const QByteArray 鍵 = a.鍵();
+        QByteArray 名 = 用意済み.value(鍵);
+        const int n = static_cast<int>(a.値.size());
+        if (名.isEmpty()) {
+            名 = "konpeki_i" + QByteArray::number(++用意番号);
+            送った = PQsendPrepare(c, 名.constData(), a.文.constData(), n, a.型.data()) == 1;
+            用意中.push_back({命令の文.size(), {鍵, 名}});
+            命令の文.push_back(i);
+        }
+        std::vector<const char*> 値(a.値.size());
+        for (std::size_t k = 0; k < 値.size(); ++k)
+            値[k] = a.Null[k] ? nullptr : a.値[k].constData();
+        送った = 送った &&
+                 PQsendQueryPrepared(c, 名.constData(), n, 値.data(), nullptr, nullptr, 0) == 1;
+        命令の文.push_back(i);
+    }
     送った = 送った && 送る(c, "RELEASE SAVEPOINT konpeki_stmt") &&
              送る(c, "SAVEPOINT konpeki_stmt") && PQpipelineSync(c) == 1;
+    命令の文.resize(命令の文.size() + 2, 終わり);
     // The answers come one per command, each followed by an empty one; the sync's ends them.
-    qsizetype 番 = 0, 失敗位置 = 終わり;
+    std::size_t 番 = 0;
+    qsizetype 失敗位置 = 終わり;
     bool 失敗あり = !送った, 同期 = false;
     while (送った && !同期 && PQstatus(c) == CONNECTION_OK) {
         PGresult* r = PQgetResult(c);
@@ -100,7 +131,12 @@ qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qs
             同期 = true;
         } else if (状態 != PGRES_COMMAND_OK && 状態 != PGRES_TUPLES_OK && !失敗あり) {
             失敗あり = true;
-            失敗位置 = std::min(始め + 番, 終わり);
+            失敗位置 = 番 < 命令の文.size() ? std::min(命令の文[番], 終わり) : 終わり;
+        } else if (状態 == PGRES_COMMAND_OK) {
+            // A statement prepared stays for the session, whatever the transaction does.
+            for (const auto& [命令, 鍵と名] : 用意中) {
+                if (命令 == 番) 用意済み.insert(鍵と名.first, 鍵と名.second);
+            }
         }
     }
     PQexitPipelineMode(c);

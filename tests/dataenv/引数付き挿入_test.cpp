@@ -1,0 +1,83 @@
+#include <gtest/gtest.h>
+
+#include "common/文字列表示.h"
+#include "dataenv/試験表試験.h"
+
+namespace {
+
+// On PostgreSQL the inserts of a stream go as prepared statements with parameters. What they
+// store, and whether they fail, is what the same statements give as text.
+class 引数付き挿入試験 : public 試験表試験 {
+  protected:
+    引数付き挿入試験()
+        : 試験表試験(u"番号 integer, 文字 varchar(20), 額 numeric(19,4), 小 smallint") {}
+    void SetUp() override {
+        試験表試験::SetUp();
+        if (IsSkipped() || HasFatalFailure()) return;
+        開く();
+    }
+    // The values after 番号, each kind of literal into each kind of column.
+    const QStringList 値一覧 = {
+        u"'it''s 出金', 100, 1.5"_qs,
+        u"100, '100.25', 7"_qs,
+        u"1.50, -2, -1.5"_qs,
+        u"'a\\b', NULL, NULL"_qs,
+        u"NULL, 3000000000, 3"_qs,
+        u"'', 0.0001, 2.5"_qs,
+        u"'x', 'y', 1"_qs,
+        u"'z', 1, 99999"_qs,
+        u"-0.5, -0.5, 0"_qs,
+    };
+    QString 文(int 番号, const QString& 値) {
+        return u"INSERT INTO 試験表 (番号, 文字, 額, 小) VALUES ("_qs + QString::number(番号) +
+               u", "_qs + 値 + u")"_qs;
+    }
+    // The stored values as text, by number.
+    QStringList 行(int 始め) {
+        QStringList r;
+        for (const auto& v : 木->業務DB行(
+                 u"SELECT 番号, 文字, CAST(額 AS varchar(30)), CAST(小 AS varchar(10)) FROM 試験表 "
+                 u"WHERE 番号 >= "_qs +
+                 QString::number(始め) + u" AND 番号 < "_qs + QString::number(始め + 100) +
+                 u" ORDER BY 番号"_qs)) {
+            r << QString::number(v[0].toInt() - 始め) + u"|"_qs + v[1].toString() + u"|"_qs +
+                     v[2].toString() + u"|"_qs + v[3].toString();
+        }
+        return r;
+    }
+};
+
+TEST_P(引数付き挿入試験, 流した挿入は文のままと同じ値で入り同じ文が失敗する) {
+    // Twice over in streams, so that the second round runs on statements prepared already.
+    std::vector<int> 流した答え, 文の答え;
+    for (int 回 = 0; 回 < 2; ++回) {
+        環境.接続().業務DB一括開始(u"試験"_qs);
+        for (int i = 0; i < 値一覧.size(); ++i) {
+            環境.接続().業務DB後で実行(文(回 * 100 + 100 + i, 値一覧[i]),
+                                       [&](bool 成功) { 流した答え.push_back(成功); });
+        }
+        ASSERT_TRUE(環境.接続().業務DB一括終了());
+    }
+    for (int i = 0; i < 値一覧.size(); ++i)
+        文の答え.push_back(環境.接続().業務DB実行(文(i, 値一覧[i])));
+    const std::vector<int> 一回分(流した答え.begin(), 流した答え.begin() + 値一覧.size());
+    EXPECT_EQ(一回分, 文の答え);
+    EXPECT_EQ(std::vector<int>(流した答え.begin() + 値一覧.size(), 流した答え.end()), 文の答え);
+    EXPECT_EQ(行(100), 行(0));
+    EXPECT_EQ(行(200), 行(0));
+    if (!GetParam()) return;
+    // The text 'y' is no number and 99999 no smallint: those two fail in every way.
+    EXPECT_EQ(std::count(文の答え.begin(), 文の答え.end(), 0), 2);
+    EXPECT_EQ(行(0).size(), 値一覧.size() - 2);
+    // The inserts went prepared: a few statements, one per kind of parameters.
+    記録集合 rs;
+    ASSERT_TRUE(環境.接続().業務DB検索(
+        rs, u"SELECT COUNT(*) FROM pg_prepared_statements WHERE name LIKE 'konpeki_i%'"_qs));
+    EXPECT_GE(rs.文字列(0).toInt(), 5);
+    EXPECT_LE(rs.文字列(0).toInt(), 9);
+    rs.閉じる();
+}
+
+KONPEKI_両エンジンで(引数付き挿入試験);
+
+}  // namespace
