@@ -98,6 +98,10 @@ qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qs
         }
         const QByteArray 鍵 = a.鍵();
         QByteArray 名 = 用意済み.value(鍵);
+        // One prepared earlier in this stream serves too: the server has it by then.
+        for (const auto& [命令, 鍵と名] : 用意中) {
+            if (名.isEmpty() && 鍵と名.first == 鍵) 名 = 鍵と名.second;
+        }
         const int n = static_cast<int>(a.値.size());
         if (名.isEmpty()) {
             名 = "konpeki_i" + QByteArray::number(++用意番号);
