@@ -65,10 +65,7 @@ qsizetype 行の上限(const std::array<欄値, 弥生列数>& f) {
 bool 弥生形式追加(CP932表& 変換器, const 仕訳伝票& t, QByteArray& 出力, QString& エラー) {
     const qsizetype 元の長さ = 出力.size();
     const QString 日付 = 弥生日付(t.出金日付);
-    QString メモ頭;  // "紺碧帳 " and the slip's name, made in one piece for every slip
-    メモ頭.reserve(t.事業所コード.size() + t.番号基準日付.size() + t.出金No.size() + 8);
-    メモ頭.append(u"紺碧帳 ").append(t.事業所コード).append(u'-').append(t.番号基準日付);
-    メモ頭.append(u'-').append(t.出金No).append(u'-');
+    const QString 名前 = t.名前();
     QString 行, 摘要, メモ;  // kept from row to row, so that their memory is made once
     for (int i = 0; i < t.行.size(); ++i) {
         const 仕訳行& l = t.行[i];
@@ -76,8 +73,8 @@ bool 弥生形式追加(CP932表& 変換器, const 仕訳伝票& t, QByteArray& 
         摘要 = l.支払先.trimmed();
         摘要 += u' ';
         摘要 += l.摘要.trimmed();
-        メモ = メモ頭;
-        メモ += l.出金行No;
+        メモ.resize(0);
+        メモ.append(u"紺碧帳 ").append(名前).append(u'-').append(l.出金行No);
         const auto f = 行の項目(t, l, 旗, 日付, QStringView(摘要).trimmed(), メモ);
         if (行.size() < 行の上限(f)) 行.resize(行の上限(f) * 2);
         行の筆 筆(reinterpret_cast<char16_t*>(行.data()));
@@ -98,7 +95,7 @@ bool 弥生形式追加(CP932表& 変換器, const 仕訳伝票& t, QByteArray& 
         qsizetype 位置;
         if (!変換器.追加(書いた, 出力, 位置)) {
             const qsizetype 単位数 = 書いた[位置].isHighSurrogate() ? 2 : 1;
-            エラー = u"伝票 "_qs + t.名前() + u" の "_qs + l.出金行No +
+            エラー = u"伝票 "_qs + 名前 + u" の "_qs + l.出金行No +
                      u" 行目に Shift-JIS にない文字「"_qs + 書いた.mid(位置, 単位数).toString() +
                      u"」があります。何も出力しませんでした。"_qs;
             出力.resize(元の長さ);
