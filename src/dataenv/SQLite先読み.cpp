@@ -1,7 +1,5 @@
 #include "dataenv/SQLite先読み.h"
 
-#include "text/実行時エラー.h"
-
 namespace {
 
 // Rows per block, and blocks: a few hundred kilobytes in all, and few hand-overs.
@@ -28,13 +26,9 @@ QString SQLite先読み::行::文字列(int 列) const {
         case SQLITE_NULL:
             return 金額();
         case SQLITE_INTEGER:
-            return 金額::円(v.整数);
+            return 金額の整数読込(v.整数);
         default:
-            try {
-                return 金額::文字列から(文字(v).toString());
-            } catch (const 実行時エラー&) {
-                return 金額();
-            }
+            return 金額の文字列読込(文字(v).toString());
     }
 }
 

@@ -64,18 +64,30 @@ QString 記録集合::文字列(const QString& 列名) const {
     return v.isNull() ? QString() : v.toString();
 }
 
+金額 金額の整数読込(qint64 整数) {
+    try {
+        return 金額::円(整数);
+    } catch (const 実行時エラー&) {
+        return 金額();
+    }
+}
+
+金額 金額の文字列読込(const QString& 文字列) {
+    try {
+        return 金額::文字列から(文字列);
+    } catch (const 実行時エラー&) {
+        return 金額();
+    }
+}
+
 namespace {
 
 金額 金額に(const QVariant& v) {
     if (v.isNull()) return 金額();
-    try {
-        // Whole numbers as the engine gave them; the text of any other value is read exactly.
-        const int 型 = v.typeId();
-        if (型 == QMetaType::LongLong || 型 == QMetaType::Int) return 金額::円(v.toLongLong());
-        return 金額::文字列から(v.toString());
-    } catch (const 実行時エラー&) {
-        return 金額();
-    }
+    // Whole numbers as the engine gave them; the text of any other value is read exactly.
+    const int 型 = v.typeId();
+    if (型 == QMetaType::LongLong || 型 == QMetaType::Int) return 金額の整数読込(v.toLongLong());
+    return 金額の文字列読込(v.toString());
 }
 
 }  // namespace

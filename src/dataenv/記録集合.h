@@ -46,5 +46,10 @@ class 記録集合 {
     mutable QSqlRecord 列一覧;  // the columns, read once per result
 };
 
+// Money from a value as an engine gives it, a whole number or a text; what is no amount, or
+// too large for one, reads as 0.
+金額 金額の整数読込(qint64 整数);
+金額 金額の文字列読込(const QString& 文字列);
+
 // A 16-bit integer by the numeric value of a text; what does not fit or is no number reads as 0.
 short 整数変換(const QString& 文字列);
