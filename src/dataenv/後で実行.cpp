@@ -1,9 +1,9 @@
 #include <libpq-fe.h>
 
-#include <QSqlDriver>
 #include <algorithm>
 
 #include "dataenv/データ接続.h"
+#include "dataenv/ドライバの手.h"
 #include "dataenv/挿入の引数化.h"
 
 namespace {
@@ -13,19 +13,28 @@ constexpr qsizetype 一度に送る最大 = 200;
 // Prepared inserts a connection keeps at most; further kinds go as their text.
 constexpr qsizetype 用意の上限 = 500;
 
+// Qt 6 names the type by the structure behind libpq's typedef.
 PGconn* 生ハンドル(const QSqlDatabase& db) {
-    const QVariant v = db.driver()->handle();
-    // Qt 6 names the type by the structure behind libpq's typedef.
-    if (!v.isValid() ||
-        (qstrcmp(v.typeName(), "PGconn*") != 0 && qstrcmp(v.typeName(), "pg_conn*") != 0)) {
-        return nullptr;
-    }
-    return *static_cast<PGconn* const*>(v.constData());
+    return ドライバの手<PGconn>(db, {"PGconn*", "pg_conn*"});
 }
 
 bool 送る(PGconn* c, const char* 文) {
     return PQsendQueryParams(c, 文, 0, nullptr, nullptr, nullptr, nullptr, 0) == 1;
 }
+
+bool 引数で送る(PGconn* c, const QByteArray& 名, const 引数付き挿入& a) {
+    std::vector<const char*> 値(a.値.size());
+    for (std::size_t k = 0; k < 値.size(); ++k) 値[k] = a.Null[k] ? nullptr : a.値[k].constData();
+    return PQsendQueryPrepared(c, 名.constData(), static_cast<int>(値.size()), 値.data(), nullptr,
+                               nullptr, 0) == 1;
+}
+
+// An insert prepared in a stream: its command, and what it is known by once the server has it.
+struct 用意 {
+    std::size_t 命令;
+    QByteArray 鍵;
+    QByteArray 名;
+};
 
 }  // namespace
 
@@ -84,36 +93,41 @@ qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qs
         return 始め;
     }
     // The statement each command belongs to (終わり for the closing ones), and the statements
-    // prepared in this stream, by their command.
+    // prepared in this stream.
     std::vector<qsizetype> 命令の文;
-    std::vector<std::pair<std::size_t, std::pair<QByteArray, QByteArray>>> 用意中;
+    std::vector<用意> 用意中;
+    // The name an insert of a kind goes by: prepared on this connection before, prepared
+    // earlier in this stream, or a new one to prepare first; empty when no more kinds may be kept.
+    const auto 名を決める = [&](const QByteArray& 鍵, bool& 新しい) -> QByteArray {
+        新しい = false;
+        if (const auto it = 用意済み.constFind(鍵); it != 用意済み.cend()) return *it;
+        for (const 用意& u : 用意中) {
+            if (u.鍵 == 鍵) return u.名;
+        }
+        if (用意済み.size() >= 用意の上限) return {};
+        新しい = true;
+        return "konpeki_i" + QByteArray::number(++用意番号);
+    };
     bool 送った = true;
     for (qsizetype i = 始め; 送った && i < 終わり; ++i) {
         引数付き挿入 a;
-        if (!挿入を引数に(列[i].単文, a) ||
-            (用意済み.size() >= 用意の上限 && !用意済み.contains(a.鍵()))) {
-            送った = 送る(c, 列[i].単文.toUtf8().constData());
-            命令の文.push_back(i);
-            continue;
+        QByteArray 鍵, 名;
+        bool 新しい = false;
+        if (挿入を引数に(列[i].単文, a)) {
+            鍵 = a.鍵();
+            名 = 名を決める(鍵, 新しい);
         }
-        const QByteArray 鍵 = a.鍵();
-        QByteArray 名 = 用意済み.value(鍵);
-        // One prepared earlier in this stream serves too: the server has it by then.
-        for (const auto& [命令, 鍵と名] : 用意中) {
-            if (名.isEmpty() && 鍵と名.first == 鍵) 名 = 鍵と名.second;
-        }
-        const int n = static_cast<int>(a.値.size());
         if (名.isEmpty()) {
-            名 = "konpeki_i" + QByteArray::number(++用意番号);
-            送った = PQsendPrepare(c, 名.constData(), a.文.constData(), n, a.型.data()) == 1;
-            用意中.push_back({命令の文.size(), {鍵, 名}});
-            命令の文.push_back(i);
+            送った = 送る(c, 列[i].単文.toUtf8().constData());
+        } else {
+            if (新しい) {
+                送った = PQsendPrepare(c, 名.constData(), a.文.constData(),
+                                       static_cast<int>(a.型.size()), a.型.data()) == 1;
+                用意中.push_back({命令の文.size(), 鍵, 名});
+                命令の文.push_back(i);
+            }
+            送った = 送った && 引数で送る(c, 名, a);
         }
-        std::vector<const char*> 値(a.値.size());
-        for (std::size_t k = 0; k < 値.size(); ++k)
-            値[k] = a.Null[k] ? nullptr : a.値[k].constData();
-        送った = 送った &&
-                 PQsendQueryPrepared(c, 名.constData(), n, 値.data(), nullptr, nullptr, 0) == 1;
         命令の文.push_back(i);
     }
     送った = 送った && 送る(c, "RELEASE SAVEPOINT konpeki_stmt") &&
@@ -138,8 +152,8 @@ qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qs
             失敗位置 = 番 < 命令の文.size() ? std::min(命令の文[番], 終わり) : 終わり;
         } else if (状態 == PGRES_COMMAND_OK) {
             // A statement prepared stays for the session, whatever the transaction does.
-            for (const auto& [命令, 鍵と名] : 用意中) {
-                if (命令 == 番) 用意済み.insert(鍵と名.first, 鍵と名.second);
+            for (const 用意& u : 用意中) {
+                if (u.命令 == 番) 用意済み.insert(u.鍵, u.名);
             }
         }
     }

@@ -1,16 +1,10 @@
-#include <QSqlDriver>
 #include <memory>
 
 #include "dataenv/SQLite先読み.h"
 #include "dataenv/データ接続.h"
+#include "dataenv/ドライバの手.h"
 
 namespace {
-
-sqlite3* 生ハンドル(const QSqlDatabase& db) {
-    const QVariant v = db.driver()->handle();
-    if (!v.isValid() || qstrcmp(v.typeName(), "sqlite3*") != 0) return nullptr;
-    return *static_cast<sqlite3* const*>(v.constData());
-}
 
 // A row of the usual record set, for the engines read through Qt.
 class 記録集合行 : public データ接続::読取行 {
@@ -42,7 +36,7 @@ bool データ接続::逐次検索(const QString& 文, const 行受け& 受け) 
 }
 
 std::optional<bool> データ接続::直接読む(const QString& 単文, const 行受け& 受け) {
-    sqlite3* db = 生ハンドル(生接続());
+    sqlite3* db = ドライバの手<sqlite3>(生接続(), {"sqlite3*"});
     sqlite3_stmt* 生文 = nullptr;
     if (db != nullptr) {
         sqlite3_prepare16_v2(db, 単文.utf16(), static_cast<int>(単文.size() * 2), &生文, nullptr);
