@@ -9,14 +9,9 @@ namespace {
 // or fails alone, with the message it gives outside a batch, and a query hands over all its rows.
 // Writes may wait for their answers; each still succeeds or fails as it does alone, with its
 // message and its history row, in the order the writes were given.
-class 一括実行 : public 試験表試験 {
+class 一括実行 : public 開いた試験表試験 {
   protected:
-    一括実行() : 試験表試験(u"値 varchar(20) PRIMARY KEY") {}
-    void SetUp() override {
-        試験表試験::SetUp();
-        if (IsSkipped() || HasFatalFailure()) return;
-        開く();
-    }
+    一括実行() : 開いた試験表試験(u"値 varchar(20) PRIMARY KEY") {}
     bool 実行(const QString& 文) { return 環境.接続().業務DB実行(文); }
     const 接続エラー& エラー() { return 環境.接続().業務DB().最終エラー(); }
     // The write given to wait; its answer goes to 答え.

@@ -7,15 +7,10 @@ namespace {
 
 // On PostgreSQL the inserts of a stream go as prepared statements with parameters. What they
 // store, and whether they fail, is what the same statements give as text.
-class 引数付き挿入試験 : public 試験表試験 {
+class 引数付き挿入試験 : public 開いた試験表試験 {
   protected:
     引数付き挿入試験()
-        : 試験表試験(u"番号 integer, 文字 varchar(20), 額 numeric(19,4), 小 smallint") {}
-    void SetUp() override {
-        試験表試験::SetUp();
-        if (IsSkipped() || HasFatalFailure()) return;
-        開く();
-    }
+        : 開いた試験表試験(u"番号 integer, 文字 varchar(20), 額 numeric(19,4), 小 smallint") {}
     // The values after 番号, each kind of literal into each kind of column.
     const QStringList 値一覧 = {
         u"'it''s 出金', 100, 1.5"_qs,

@@ -25,3 +25,14 @@ class 試験表試験 : public エンジン別試験 {
   private:
     const char16_t* 列定義;
 };
+
+// The same, with both databases of the tree opened as the program opens them.
+class 開いた試験表試験 : public 試験表試験 {
+  protected:
+    using 試験表試験::試験表試験;
+    void SetUp() override {
+        試験表試験::SetUp();
+        if (IsSkipped() || HasFatalFailure()) return;
+        開く();
+    }
+};
