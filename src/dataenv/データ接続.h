@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "dataenv/SQL方言変換.h"
+#include "dataenv/文の引数化.h"
 #include "dataenv/記録集合.h"
 
 // How to reach one database: the engine and the values that open it.
@@ -109,6 +110,9 @@ class データ接続 {
         QString 単文;
         結果受け 受け;
         std::optional<接続エラー> 事前エラー;  // refused before reaching the server
+        std::optional<引数付き文> 引数;        // the same with its values as parameters
+        // Bound to fail at the server: it goes alone, so that the stream before it stands.
+        bool 単独() const { return 事前エラー || (引数 && 引数->必ず失敗()); }
     };
     // PostgreSQL: sends the statements [始め, 終わり) as one stream and answers 終わり when they
     // all ran. Otherwise the stream is undone and the answer is the statement that failed, or
@@ -121,7 +125,7 @@ class データ接続 {
     bool 一括 = false;
     bool 解放待ち = false;  // SQLite: the savepoint of a query whose rows may still be coming
     std::vector<待ち文> 待ち;
-    // PostgreSQL: the inserts prepared on this connection, by text and parameter types, and the
+    // PostgreSQL: the writes prepared on this connection, by text and parameter types, and the
     // number of the last name given.
     QHash<QByteArray, QByteArray> 用意済み;
     int 用意番号 = 0;

@@ -4,13 +4,12 @@
 
 #include "dataenv/データ接続.h"
 #include "dataenv/ドライバの手.h"
-#include "dataenv/挿入の引数化.h"
 
 namespace {
 
 // A stream longer than this is cut, so that neither side's buffer fills while the other waits.
 constexpr qsizetype 一度に送る最大 = 200;
-// Prepared inserts a connection keeps at most; further kinds go as their text.
+// Prepared writes a connection keeps at most; further kinds go as their text.
 constexpr qsizetype 用意の上限 = 500;
 
 // Qt 6 names the type by the structure behind libpq's typedef.
@@ -22,14 +21,13 @@ bool 送る(PGconn* c, const char* 文) {
     return PQsendQueryParams(c, 文, 0, nullptr, nullptr, nullptr, nullptr, 0) == 1;
 }
 
-bool 引数で送る(PGconn* c, const QByteArray& 名, const 引数付き挿入& a) {
-    std::vector<const char*> 値(a.値.size());
-    for (std::size_t k = 0; k < 値.size(); ++k) 値[k] = a.Null[k] ? nullptr : a.値[k].constData();
+bool 引数で送る(PGconn* c, const QByteArray& 名, const 引数付き文& a) {
+    const std::vector<const char*> 値 = a.値();
     return PQsendQueryPrepared(c, 名.constData(), static_cast<int>(値.size()), 値.data(), nullptr,
                                nullptr, 0) == 1;
 }
 
-// An insert prepared in a stream: its command, and what it is known by once the server has it.
+// A write prepared in a stream: its command, and what it is known by once the server has it.
 struct 用意 {
     std::size_t 命令;
     QByteArray 鍵;
@@ -46,7 +44,11 @@ void データ接続::後で実行(const QString& 文, 結果受け 受け) {
     }
     待ち文 w;
     w.受け = std::move(受け);
-    if (!一文に(文, w.単文)) w.事前エラー = エラー;
+    if (!一文に(文, w.単文)) {
+        w.事前エラー = エラー;
+    } else if (引数付き文 a; 文を引数に(w.単文, a)) {
+        w.引数 = std::move(a);
+    }
     待ち.push_back(std::move(w));
     if (static_cast<qsizetype>(待ち.size()) >= 一度に送る最大) 待ちを送る();
 }
@@ -59,7 +61,7 @@ void データ接続::待ちを送る() {
     std::vector<std::pair<bool, 接続エラー>> 結果(列.size(), {true, 接続エラー{}});
     for (qsizetype i = 0; i < 数;) {
         qsizetype 終わり = i;
-        while (終わり < 数 && !列[終わり].事前エラー) ++終わり;
+        while (終わり < 数 && !列[終わり].単独()) ++終わり;
         // A stream with a failure in it is undone whole; it goes again up to that statement.
         while (終わり > i) {
             const qsizetype 失敗 = 流して送る(列, i, 終わり);
@@ -68,8 +70,9 @@ void データ接続::待ちを送る() {
         }
         i = 終わり;
         if (i == 数) break;
-        // The statement where the stream stopped runs alone, as any statement of a batch does,
-        // so its result and its message are what they are without the stream.
+        // The statement where the stream stopped, or one bound to fail, runs alone, as any
+        // statement of a batch does, so its result and its message are what they are without
+        // the stream.
         if (列[i].事前エラー) {
             結果[i] = {false, *列[i].事前エラー};
         } else {
@@ -96,7 +99,7 @@ qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qs
     // prepared in this stream.
     std::vector<qsizetype> 命令の文;
     std::vector<用意> 用意中;
-    // The name an insert of a kind goes by: prepared on this connection before, prepared
+    // The name a write of a kind goes by: prepared on this connection before, prepared
     // earlier in this stream, or a new one to prepare first; empty when no more kinds may be kept.
     const auto 名を決める = [&](const QByteArray& 鍵, bool& 新しい) -> QByteArray {
         新しい = false;
@@ -110,23 +113,23 @@ qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qs
     };
     bool 送った = true;
     for (qsizetype i = 始め; 送った && i < 終わり; ++i) {
-        引数付き挿入 a;
+        const std::optional<引数付き文>& a = 列[i].引数;
         QByteArray 鍵, 名;
         bool 新しい = false;
-        if (挿入を引数に(列[i].単文, a)) {
-            鍵 = a.鍵();
+        if (a) {
+            鍵 = a->鍵();
             名 = 名を決める(鍵, 新しい);
         }
         if (名.isEmpty()) {
             送った = 送る(c, 列[i].単文.toUtf8().constData());
         } else {
             if (新しい) {
-                送った = PQsendPrepare(c, 名.constData(), a.文.constData(),
-                                       static_cast<int>(a.型.size()), a.型.data()) == 1;
+                送った = PQsendPrepare(c, 名.constData(), a->型紙.constData(),
+                                       static_cast<int>(a->型.size()), a->型.data()) == 1;
                 用意中.push_back({命令の文.size(), 鍵, 名});
                 命令の文.push_back(i);
             }
-            送った = 送った && 引数で送る(c, 名, a);
+            送った = 送った && 引数で送る(c, 名, *a);
         }
         命令の文.push_back(i);
     }
