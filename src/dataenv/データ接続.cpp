@@ -251,12 +251,14 @@ bool データ接続::一括開始() {
 }
 
 bool データ接続::一括終了() {
-    待ちを送る();
+    // On PostgreSQL the commit goes with the last writes, when they all stand.
+    確定 送った確定;
+    待ちを流す(一括 && 変換先 == SQL方言::PostgreSQL ? &送った確定 : nullptr);
     if (!一括) return true;
     一括 = false;
     解放待ち = false;
-    if (制御文(u"COMMIT"_qs)) return true;
-    const 接続エラー 失敗 = エラー;
+    if (送った確定.送った ? !送った確定.失敗 : 制御文(u"COMMIT"_qs)) return true;
+    const 接続エラー 失敗 = 送った確定.失敗.value_or(エラー);
     制御文(u"ROLLBACK"_qs);
     エラー = 失敗;
     return false;

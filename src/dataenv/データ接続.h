@@ -116,8 +116,17 @@ class データ接続 {
     };
     // PostgreSQL: sends the statements [始め, 終わり) as one stream and answers 終わり when they
     // all ran. Otherwise the stream is undone and the answer is the statement that failed, or
-    // 始め when the stream could not go.
-    qsizetype 流して送る(const std::vector<待ち文>& 列, qsizetype 始め, qsizetype 終わり);
+    // 始め when the stream could not go. The last may be one bound to fail: its own answer is
+    // given in 答え.
+    // With 確定 the stream that closes the writes ends with the commit, and 確定 tells
+    // whether it went and how it ended.
+    struct 確定 {
+        bool 送った = false;
+        std::optional<接続エラー> 失敗;
+    };
+    qsizetype 流して送る(const std::vector<待ち文>& 列, qsizetype 始め, qsizetype 終わり,
+                         std::pair<bool, 接続エラー>& 答え, 確定* 確定付き);
+    void 待ちを流す(確定* 確定付き);
 
     QString 接続名;
     SQL方言 変換先 = SQL方言::SQLite;

@@ -1,38 +1,16 @@
-#include <libpq-fe.h>
-
-#include <algorithm>
-
 #include "dataenv/データ接続.h"
 #include "dataenv/ドライバの手.h"
+#include "dataenv/流し送り.h"
 
 namespace {
 
 // A stream longer than this is cut, so that neither side's buffer fills while the other waits.
 constexpr qsizetype 一度に送る最大 = 200;
-// Prepared writes a connection keeps at most; further kinds go as their text.
-constexpr qsizetype 用意の上限 = 500;
 
 // Qt 6 names the type by the structure behind libpq's typedef.
 PGconn* 生ハンドル(const QSqlDatabase& db) {
     return ドライバの手<PGconn>(db, {"PGconn*", "pg_conn*"});
 }
-
-bool 送る(PGconn* c, const char* 文) {
-    return PQsendQueryParams(c, 文, 0, nullptr, nullptr, nullptr, nullptr, 0) == 1;
-}
-
-bool 引数で送る(PGconn* c, const QByteArray& 名, const 引数付き文& a) {
-    const std::vector<const char*> 値 = a.値();
-    return PQsendQueryPrepared(c, 名.constData(), static_cast<int>(値.size()), 値.data(), nullptr,
-                               nullptr, 0) == 1;
-}
-
-// A write prepared in a stream: its command, and what it is known by once the server has it.
-struct 用意 {
-    std::size_t 命令;
-    QByteArray 鍵;
-    QByteArray 名;
-};
 
 }  // namespace
 
@@ -54,6 +32,10 @@ void データ接続::後で実行(const QString& 文, 結果受け 受け) {
 }
 
 void データ接続::待ちを送る() {
+    待ちを流す(nullptr);
+}
+
+void データ接続::待ちを流す(確定* 確定付き) {
     if (待ち.empty()) return;
     std::vector<待ち文> 列;
     列.swap(待ち);
@@ -62,17 +44,22 @@ void データ接続::待ちを送る() {
     for (qsizetype i = 0; i < 数;) {
         qsizetype 終わり = i;
         while (終わり < 数 && !列[終わり].単独()) ++終わり;
+        // One that the server is bound to refuse ends the stream, in a part of its own.
+        const bool 単独を含む = 終わり < 数 && !列[終わり].事前エラー;
+        if (単独を含む) ++終わり;
+        const qsizetype 予定 = 終わり;
         // A stream with a failure in it is undone whole; it goes again up to that statement.
         while (終わり > i) {
-            const qsizetype 失敗 = 流して送る(列, i, 終わり);
+            // The batch's commit goes with the stream that ends its writes.
+            確定* 確定 = 終わり == 数 && !列[終わり - 1].単独() ? 確定付き : nullptr;
+            const qsizetype 失敗 = 流して送る(列, i, 終わり, 結果[終わり - 1], 確定);
             if (失敗 == 終わり) break;
             終わり = 失敗;
         }
         i = 終わり;
-        if (i == 数) break;
-        // The statement where the stream stopped, or one bound to fail, runs alone, as any
-        // statement of a batch does, so its result and its message are what they are without
-        // the stream.
+        if (i == 数 || (i == 予定 && 単独を含む)) continue;
+        // The statement where the stream stopped runs alone, as any statement of a batch does,
+        // so its result and its message are what they are without the stream.
         if (列[i].事前エラー) {
             結果[i] = {false, *列[i].事前エラー};
         } else {
@@ -89,80 +76,33 @@ void データ接続::待ちを送る() {
 
 // The statements go one behind the other in the savepoint that stands for the next statement,
 // and its release and the savepoint for the one after them close the stream. After a failure
-// the server skips the rest, and the savepoint undoes what the stream did.
-qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qsizetype 始め, qsizetype 終わり) {
+// the server skips the rest, and the savepoint undoes what the stream did. A last statement
+// bound to fail goes behind the others in a part of its own, and its answer comes back in 答え.
+qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qsizetype 始め, qsizetype 終わり,
+                                 std::pair<bool, 接続エラー>& 答え, 確定* 確定付き) {
     PGconn* c = 生ハンドル(生接続());
     if (c == nullptr || PQtransactionStatus(c) != PQTRANS_INTRANS || !PQenterPipelineMode(c)) {
         return 始め;
     }
-    // The statement each command belongs to (終わり for the closing ones), and the statements
-    // prepared in this stream.
-    std::vector<qsizetype> 命令の文;
-    std::vector<用意> 用意中;
-    // The name a write of a kind goes by: prepared on this connection before, prepared
-    // earlier in this stream, or a new one to prepare first; empty when no more kinds may be kept.
-    const auto 名を決める = [&](const QByteArray& 鍵, bool& 新しい) -> QByteArray {
-        新しい = false;
-        if (const auto it = 用意済み.constFind(鍵); it != 用意済み.cend()) return *it;
-        for (const 用意& u : 用意中) {
-            if (u.鍵 == 鍵) return u.名;
-        }
-        if (用意済み.size() >= 用意の上限) return {};
-        新しい = true;
-        return "konpeki_i" + QByteArray::number(++用意番号);
-    };
+    流し送り 流れ(c, 用意済み, 用意番号);
+    const bool 単独あり = 列[終わり - 1].単独();
+    const qsizetype 並ぶ終わり = 単独あり ? 終わり - 1 : 終わり;
     bool 送った = true;
-    for (qsizetype i = 始め; 送った && i < 終わり; ++i) {
-        const std::optional<引数付き文>& a = 列[i].引数;
-        QByteArray 鍵, 名;
-        bool 新しい = false;
-        if (a) {
-            鍵 = a->鍵();
-            名 = 名を決める(鍵, 新しい);
-        }
-        if (名.isEmpty()) {
-            送った = 送る(c, 列[i].単文.toUtf8().constData());
-        } else {
-            if (新しい) {
-                送った = PQsendPrepare(c, 名.constData(), a->型紙.constData(),
-                                       static_cast<int>(a->型.size()), a->型.data()) == 1;
-                用意中.push_back({命令の文.size(), 鍵, 名});
-                命令の文.push_back(i);
-            }
-            送った = 送った && 引数で送る(c, 名, *a);
-        }
-        命令の文.push_back(i);
+    for (qsizetype i = 始め; 送った && i < 並ぶ終わり; ++i) {
+        送った = 流れ.文を送る(i, 列[i].単文, 列[i].引数);
     }
-    送った = 送った && 送る(c, "RELEASE SAVEPOINT konpeki_stmt") &&
-             送る(c, "SAVEPOINT konpeki_stmt") && PQpipelineSync(c) == 1;
-    命令の文.resize(命令の文.size() + 2, 終わり);
-    // The answers come one per command, each followed by an empty one; the sync's ends them.
-    std::size_t 番 = 0;
-    qsizetype 失敗位置 = 終わり;
-    bool 失敗あり = !送った, 同期 = false;
-    while (送った && !同期 && PQstatus(c) == CONNECTION_OK) {
-        PGresult* r = PQgetResult(c);
-        if (r == nullptr) {
-            ++番;
-            continue;
-        }
-        const ExecStatusType 状態 = PQresultStatus(r);
-        PQclear(r);
-        if (状態 == PGRES_PIPELINE_SYNC) {
-            同期 = true;
-        } else if (状態 != PGRES_COMMAND_OK && 状態 != PGRES_TUPLES_OK && !失敗あり) {
-            失敗あり = true;
-            失敗位置 = 番 < 命令の文.size() ? std::min(命令の文[番], 終わり) : 終わり;
-        } else if (状態 == PGRES_COMMAND_OK) {
-            // A statement prepared stays for the session, whatever the transaction does.
-            for (const 用意& u : 用意中) {
-                if (u.命令 == 番) 用意済み.insert(u.鍵, u.名);
-            }
-        }
+    if (送った && 並ぶ終わり > 始め) {
+        送った = 確定付き ? 流れ.確定して区切る(並ぶ終わり) : 流れ.区切る(並ぶ終わり);
     }
+    if (送った && 単独あり) 送った = 流れ.単独で送る(並ぶ終わり, 列[並ぶ終わり].単文, 終わり);
+    const 流し送り::答え a = 送った ? 流れ.受ける(終わり) : 流し送り::答え{};
     PQexitPipelineMode(c);
-    if (!失敗あり && 同期) return 終わり;
+    if (a.揃った && !a.失敗あり) {
+        if (単独あり) 答え = {!a.単独の失敗, a.単独の失敗.value_or(接続エラー{})};
+        if (確定付き) *確定付き = {a.確定した || a.確定の失敗, a.確定の失敗};
+        return 終わり;
+    }
     制御文(u"ROLLBACK TO SAVEPOINT konpeki_stmt"_qs);
     // A statement that failed is where the stream stops; one that did not answer is sent again.
-    return 失敗あり && 失敗位置 < 終わり ? 失敗位置 : 始め;
+    return a.失敗あり && a.失敗位置 < 終わり ? a.失敗位置 : 始め;
 }

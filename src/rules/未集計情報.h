@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 #include "dataenv/環境情報.h"
@@ -39,3 +40,9 @@ struct 保存状態 {
 // outcome of the last row written, or nothing when no row was due.
 std::optional<書込結果> 出金未集計情報書込(接続環境& 接続, const 会社情報& 会社,
                                            const 保存状態& 状態);
+
+// The same rows as writes of the batch running on the general database, where they go when
+// 更新実行区分 is 1: each outcome reaches 受け in order once the batch's writes are answered,
+// at the latest when the batch ends.
+void 出金未集計情報を送る(接続環境& 接続, const 保存状態& 状態,
+                          const std::function<void(const 書込結果&)>& 受け);

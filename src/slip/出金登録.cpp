@@ -369,8 +369,6 @@ void 出金セッション::出金明細履歴書込() {
 }
 
 void 出金セッション::後処理() {
-    // The answers of the writes set the result before the queue row may set it again.
-    データ.接続().業務DB().待ちを送る();
     const auto& h = 見出し;
     保存状態 状態;
     状態.処理区分 = h.処理区分;
@@ -381,16 +379,15 @@ void 出金セッション::後処理() {
     状態.番号基準日付 = h.番号基準日付;
     状態.出金No = h.出金No;
     状態.出金履歴No = h.出金履歴No;
-    auto 未集計 = [&] {
-        if (const auto 結果 = 出金未集計情報書込(データ.接続(), データ.会社設定().会社(), 状態)) {
-            処理結果区分 = 結果->処理結果区分;
-            処理結果メッセージ = 結果->処理結果メッセージ;
-        }
+    const auto 結果を置く = [this](const 書込結果& 結果) {
+        処理結果区分 = 結果.処理結果区分;
+        処理結果メッセージ = 結果.処理結果メッセージ;
     };
-    // A queue row in the general database goes with the batch; one in the configuration
+    // A queue row in the general database goes with the batch, behind the writes of the slip,
+    // whose answers set the result before it may set it again; one in the configuration
     // database is written only once the batch stands, so that none points at rows undone.
     const bool 一括の内 = 未集計情報は業務DBへ(データ.会社設定().会社());
-    if (一括の内) 未集計();
+    if (一括の内) 出金未集計情報を送る(データ.接続(), 状態, 結果を置く);
     if (!データ.接続().業務DB一括終了()) {
         保存未確定 = true;
         if (h.処理区分 == u"2") {
@@ -400,7 +397,11 @@ void 出金セッション::後処理() {
         }
         return;
     }
-    if (!一括の内) 未集計();
+    if (!一括の内) {
+        if (const auto 結果 = 出金未集計情報書込(データ.接続(), データ.会社設定().会社(), 状態)) {
+            結果を置く(*結果);
+        }
+    }
     if (データ.会社設定().会社().更新実行区分 != 0) return;
     // The update program reads what this run wrote, through connections opened afresh.
     データ.接続().接続終了();

@@ -127,6 +127,38 @@ TEST_P(未集計情報, 結果は最後に書いた行のもの) {
     EXPECT_EQ(履歴文(u"エラー "_qs).size(), 1);
 }
 
+// Inside a store's batch the rows go as its writes: the same rows in the same order, each
+// outcome handed over by the time the batch ends.
+TEST_P(未集計情報, 一括の書込として送った行は同じ行を同じ順に書く) {
+    const 保存状態 状態{u"1"_qs,        u"000"_qs,      u"20260331"_qs, u"00000003"_qs,
+                        u"00000021"_qs, u"20270331"_qs, u"00000001"_qs, u"00000020"_qs};
+    std::vector<short> 答え;
+    環境.接続().業務DB一括開始(u"試験"_qs);
+    出金未集計情報を送る(環境.接続(), 状態,
+                         [&](const 書込結果& r) { 答え.push_back(r.処理結果区分); });
+    ASSERT_TRUE(環境.接続().業務DB一括終了());
+    EXPECT_EQ(答え, (std::vector<short>{1, 1}));
+    EXPECT_EQ(業務の列(),
+              (QStringList{u"000|16810|20270331|00000020|1|00000001||0|1|"_qs + 利用者,
+                           u"000|16810|20260331|00000021|0|00000003||0|1|"_qs + 利用者}));
+    const QStringList 出力 = 履歴文(u"出力終了 "_qs);
+    ASSERT_EQ(出力.size(), 2);
+    EXPECT_TRUE(出力[0].contains(u"''20260331'',''00000021'',''0'',''00000003''"_qs));
+    EXPECT_TRUE(出力[1].contains(u"''20270331'',''00000020'',''1'',''00000001''"_qs));
+    // With the queue gone both rows are refused, each with the store's refusal.
+    ASSERT_TRUE(木->業務DB実行(u"DROP TABLE 未集計情報"_qs));
+    std::vector<書込結果> 二度目;
+    環境.接続().業務DB一括開始(u"試験"_qs);
+    出金未集計情報を送る(環境.接続(), 状態, [&](const 書込結果& r) { 二度目.push_back(r); });
+    環境.接続().業務DB一括終了();
+    ASSERT_EQ(二度目.size(), 2u);
+    for (const 書込結果& r : 二度目) {
+        EXPECT_EQ(r.処理結果区分, 3);
+        EXPECT_EQ(r.処理結果メッセージ, u"登録済です。登録できませんでした。"_qs);
+    }
+    EXPECT_EQ(履歴文(u"エラー "_qs).size(), 2);
+}
+
 KONPEKI_両エンジンで(未集計情報);
 
 }  // namespace
