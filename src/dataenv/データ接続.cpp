@@ -28,6 +28,8 @@ void データ接続::エラー記録(const QSqlError& e) {
     エラー.番号 = e.nativeErrorCode().isEmpty() ? QString::number(static_cast<int>(e.type()))
                                                 : e.nativeErrorCode();
     エラー.説明 = e.text();
+    // Qt's driver says nothing of a statement on a connection the server dropped in a stream.
+    if (エラー.説明.isEmpty()) エラー.説明 = 切れた接続の説明();
 }
 
 bool データ接続::開く(const 接続先& 先) {

@@ -94,6 +94,9 @@ class データ接続 {
 
   private:
     void エラー記録(const QSqlError& e);
+    // PostgreSQL: what the client library says of a connection the server has dropped, in the
+    // words Qt's driver uses; empty while it stands.
+    QString 切れた接続の説明() const;
     bool 文実行(QSqlQuery& q, const QString& 文);
     bool 制御文(const QString& 文);
     bool 制御文群(const QString& 文);  // a message of several commands, each one checked

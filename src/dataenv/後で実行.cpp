@@ -14,6 +14,13 @@ PGconn* 生ハンドル(const QSqlDatabase& db) {
 
 }  // namespace
 
+QString データ接続::切れた接続の説明() const {
+    if (変換先 != SQL方言::PostgreSQL || !QSqlDatabase::contains(接続名)) return {};
+    PGconn* c = 生ハンドル(生接続());
+    if (c == nullptr || PQstatus(c) == CONNECTION_OK) return {};
+    return QString::fromUtf8(PQerrorMessage(c)) + u" QPSQL: Unable to create query"_qs;
+}
+
 void データ接続::後で実行(const QString& 文, 結果受け 受け) {
     if (!一括 || 変換先 != SQL方言::PostgreSQL || !開いている()) {
         const bool 成功 = 実行(文);

@@ -20,6 +20,20 @@ class 未集計情報 : public 番号設定試験 {
     QStringList 業務の列() { return 業務表(列 + u" ORDER BY 履歴No"_qs); }
     QStringList 環境の列() { return 環境表(列 + u" ORDER BY 履歴No"_qs); }
     QString 利用者;
+    // A correction that moved to another sequence, and its two rows: the history numbers run
+    // against the order of writing, so the order is read from the run history, which numbers
+    // its rows.
+    const 保存状態 移った修正{u"1"_qs,        u"000"_qs,      u"20260331"_qs, u"00000003"_qs,
+                              u"00000021"_qs, u"20270331"_qs, u"00000001"_qs, u"00000020"_qs};
+    void 移った修正の行を確かめる() {
+        EXPECT_EQ(業務の列(),
+                  (QStringList{u"000|16810|20270331|00000020|1|00000001||0|1|"_qs + 利用者,
+                               u"000|16810|20260331|00000021|0|00000003||0|1|"_qs + 利用者}));
+        const QStringList 出力 = 履歴文(u"出力終了 "_qs);
+        ASSERT_EQ(出力.size(), 2);
+        EXPECT_TRUE(出力[0].contains(u"''20260331'',''00000021'',''0'',''00000003''"_qs));
+        EXPECT_TRUE(出力[1].contains(u"''20270331'',''00000020'',''1'',''00000001''"_qs));
+    }
 };
 
 TEST_P(未集計情報, 記録者IDは利用者名と起動担当者と端末名をつなぐ) {
@@ -86,20 +100,9 @@ TEST_P(未集計情報, 削除は赤黒0で登録情報区分2の一行だけ) {
 }
 
 TEST_P(未集計情報, 系列を移った修正は旧キーを先に新キーを後に書く) {
-    // The history numbers run against the order of writing, so the order is read from the
-    // run history, which numbers its rows.
-    const auto 結果 =
-        出金未集計情報書込(環境.接続(), 環境.会社設定().会社(),
-                           {u"1"_qs, u"000"_qs, u"20260331"_qs, u"00000003"_qs, u"00000021"_qs,
-                            u"20270331"_qs, u"00000001"_qs, u"00000020"_qs});
+    const auto 結果 = 出金未集計情報書込(環境.接続(), 環境.会社設定().会社(), 移った修正);
     ASSERT_TRUE(結果.has_value());
-    EXPECT_EQ(業務の列(),
-              (QStringList{u"000|16810|20270331|00000020|1|00000001||0|1|"_qs + 利用者,
-                           u"000|16810|20260331|00000021|0|00000003||0|1|"_qs + 利用者}));
-    const QStringList 出力 = 履歴文(u"出力終了 "_qs);
-    ASSERT_EQ(出力.size(), 2);
-    EXPECT_TRUE(出力[0].contains(u"''20260331'',''00000021'',''0'',''00000003''"_qs));
-    EXPECT_TRUE(出力[1].contains(u"''20270331'',''00000020'',''1'',''00000001''"_qs));
+    移った修正の行を確かめる();
 }
 
 TEST_P(未集計情報, 履歴番号が数値で0の状態は書かない) {
@@ -130,26 +133,18 @@ TEST_P(未集計情報, 結果は最後に書いた行のもの) {
 // Inside a store's batch the rows go as its writes: the same rows in the same order, each
 // outcome handed over by the time the batch ends.
 TEST_P(未集計情報, 一括の書込として送った行は同じ行を同じ順に書く) {
-    const 保存状態 状態{u"1"_qs,        u"000"_qs,      u"20260331"_qs, u"00000003"_qs,
-                        u"00000021"_qs, u"20270331"_qs, u"00000001"_qs, u"00000020"_qs};
     std::vector<short> 答え;
     環境.接続().業務DB一括開始(u"試験"_qs);
-    出金未集計情報を送る(環境.接続(), 状態,
+    出金未集計情報を送る(環境.接続(), 移った修正,
                          [&](const 書込結果& r) { 答え.push_back(r.処理結果区分); });
     ASSERT_TRUE(環境.接続().業務DB一括終了());
     EXPECT_EQ(答え, (std::vector<short>{1, 1}));
-    EXPECT_EQ(業務の列(),
-              (QStringList{u"000|16810|20270331|00000020|1|00000001||0|1|"_qs + 利用者,
-                           u"000|16810|20260331|00000021|0|00000003||0|1|"_qs + 利用者}));
-    const QStringList 出力 = 履歴文(u"出力終了 "_qs);
-    ASSERT_EQ(出力.size(), 2);
-    EXPECT_TRUE(出力[0].contains(u"''20260331'',''00000021'',''0'',''00000003''"_qs));
-    EXPECT_TRUE(出力[1].contains(u"''20270331'',''00000020'',''1'',''00000001''"_qs));
+    移った修正の行を確かめる();
     // With the queue gone both rows are refused, each with the store's refusal.
     ASSERT_TRUE(木->業務DB実行(u"DROP TABLE 未集計情報"_qs));
     std::vector<書込結果> 二度目;
     環境.接続().業務DB一括開始(u"試験"_qs);
-    出金未集計情報を送る(環境.接続(), 状態, [&](const 書込結果& r) { 二度目.push_back(r); });
+    出金未集計情報を送る(環境.接続(), 移った修正, [&](const 書込結果& r) { 二度目.push_back(r); });
     環境.接続().業務DB一括終了();
     ASSERT_EQ(二度目.size(), 2u);
     for (const 書込結果& r : 二度目) {
