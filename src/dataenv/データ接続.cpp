@@ -4,6 +4,7 @@
 #include <QSqlError>
 #include <QSqlQuery>
 
+#include "dataenv/QPSQLの文言.h"
 #include "dataenv/単文確認.h"
 
 データ接続::データ接続(QString 用途)
@@ -161,8 +162,9 @@ bool データ接続::一文に(const QString& 文, QString& 単文) {
                       u"near \""_qs + 語 + u"\": syntax error Unable to execute statement"_qs};
             break;
         case SQL方言::PostgreSQL:
-            エラー = {u"42601"_qs, u"ERROR:  syntax error at or near \""_qs + 語 +
-                                       u"\"\n(42601) QPSQL: Unable to create query"_qs};
+            エラー = {u"42601"_qs,
+                      QPSQLの説明(u"ERROR:  syntax error at or near \""_qs + 語 + u"\"\n"_qs,
+                                  u"42601"_qs)};
             break;
         case SQL方言::そのまま:
             エラー = {u"42000"_qs, u"syntax error at or near \""_qs + 語 + u"\""_qs};

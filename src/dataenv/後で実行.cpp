@@ -1,3 +1,4 @@
+#include "dataenv/QPSQLの文言.h"
 #include "dataenv/データ接続.h"
 #include "dataenv/ドライバの手.h"
 #include "dataenv/流し送り.h"
@@ -18,7 +19,7 @@ QString データ接続::切れた接続の説明() const {
     if (変換先 != SQL方言::PostgreSQL || !QSqlDatabase::contains(接続名)) return {};
     PGconn* c = 生ハンドル(生接続());
     if (c == nullptr || PQstatus(c) == CONNECTION_OK) return {};
-    return QString::fromUtf8(PQerrorMessage(c)) + u" QPSQL: Unable to create query"_qs;
+    return QPSQLの説明(QString::fromUtf8(PQerrorMessage(c)), {});
 }
 
 void データ接続::後で実行(const QString& 文, 結果受け 受け) {

@@ -1,5 +1,7 @@
 #include "dataenv/流し送り.h"
 
+#include "dataenv/QPSQLの文言.h"
+
 namespace {
 
 // Prepared writes a connection keeps at most; further kinds go as their text.
@@ -19,8 +21,7 @@ bool 引数で送る(PGconn* c, const QByteArray& 名, const 引数付き文& a)
 接続エラー 結果のエラー(const PGresult* r) {
     const char* 状態 = PQresultErrorField(r, PG_DIAG_SQLSTATE);
     const QString 番号 = QString::fromLatin1(状態 != nullptr ? 状態 : "");
-    return {番号, QString::fromUtf8(PQresultErrorMessage(r)) + u"("_qs + 番号 +
-                      u") QPSQL: Unable to create query"_qs};
+    return {番号, QPSQLの説明(QString::fromUtf8(PQresultErrorMessage(r)), 番号)};
 }
 
 }  // namespace
