@@ -38,7 +38,9 @@ class SQLite先読み {
         bool 等しい(int 列, const QString& 値) const override;
 
       private:
-        QUtf8StringView 文字(const 値& v) const { return {b.文字.data() + v.始め, v.長さ}; }
+        QUtf8StringView 文字(const 値& v) const {
+            return {b.文字.data() + v.始め, static_cast<qsizetype>(v.長さ)};
+        }
         const 束& b;
         std::size_t 先頭;
     };

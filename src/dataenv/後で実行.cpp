@@ -1,4 +1,5 @@
 #include "dataenv/QPSQLの文言.h"
+#include "dataenv/libpqの呼び口.h"
 #include "dataenv/データ接続.h"
 #include "dataenv/ドライバの手.h"
 #include "dataenv/流し送り.h"
@@ -8,8 +9,10 @@ namespace {
 // A stream longer than this is cut, so that neither side's buffer fills while the other waits.
 constexpr qsizetype 一度に送る最大 = 200;
 
-// Qt 6 names the type by the structure behind libpq's typedef.
+// Qt 6 names the type by the structure behind libpq's typedef. Null, as when the library's
+// calls are not at hand, sends every statement on its own.
 PGconn* 生ハンドル(const QSqlDatabase& db) {
+    if (libpqの呼び口を得る() == nullptr) return nullptr;
     return ドライバの手<PGconn>(db, {"PGconn*", "pg_conn*"});
 }
 
@@ -18,8 +21,10 @@ PGconn* 生ハンドル(const QSqlDatabase& db) {
 QString データ接続::切れた接続の説明() const {
     if (変換先 != SQL方言::PostgreSQL || !QSqlDatabase::contains(接続名)) return {};
     PGconn* c = 生ハンドル(生接続());
-    if (c == nullptr || PQstatus(c) == CONNECTION_OK) return {};
-    return QPSQLの説明(QString::fromUtf8(PQerrorMessage(c)), {});
+    if (c == nullptr) return {};
+    const libpqの呼び口& pq = *libpqの呼び口を得る();
+    if (pq.PQstatus(c) == CONNECTION_OK) return {};
+    return QPSQLの説明(QString::fromUtf8(pq.PQerrorMessage(c)), {});
 }
 
 void データ接続::後で実行(const QString& 文, 結果受け 受け) {
@@ -89,10 +94,10 @@ void データ接続::待ちを流す(確定* 確定付き) {
 qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qsizetype 始め, qsizetype 終わり,
                                  std::pair<bool, 接続エラー>& 答え, 確定* 確定付き) {
     PGconn* c = 生ハンドル(生接続());
-    if (c == nullptr || PQtransactionStatus(c) != PQTRANS_INTRANS || !PQenterPipelineMode(c)) {
-        return 始め;
-    }
-    流し送り 流れ(c, 用意済み, 用意番号);
+    if (c == nullptr) return 始め;
+    const libpqの呼び口& pq = *libpqの呼び口を得る();
+    if (pq.PQtransactionStatus(c) != PQTRANS_INTRANS || !pq.PQenterPipelineMode(c)) return 始め;
+    流し送り 流れ(pq, c, 用意済み, 用意番号);
     const bool 単独あり = 列[終わり - 1].単独();
     const qsizetype 並ぶ終わり = 単独あり ? 終わり - 1 : 終わり;
     bool 送った = true;
@@ -104,7 +109,7 @@ qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qs
     }
     if (送った && 単独あり) 送った = 流れ.単独で送る(並ぶ終わり, 列[並ぶ終わり].単文, 終わり);
     const 流し送り::答え a = 送った ? 流れ.受ける(終わり) : 流し送り::答え{};
-    PQexitPipelineMode(c);
+    pq.PQexitPipelineMode(c);
     if (a.揃った && !a.失敗あり) {
         if (単独あり) 答え = {!a.単独の失敗, a.単独の失敗.value_or(接続エラー{})};
         if (確定付き) *確定付き = {a.確定した || a.確定の失敗, a.確定の失敗};

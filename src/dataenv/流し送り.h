@@ -1,12 +1,11 @@
 #pragma once
 
-#include <libpq-fe.h>
-
 #include <QByteArray>
 #include <QHash>
 #include <optional>
 #include <vector>
 
+#include "dataenv/libpqの呼び口.h"
 #include "dataenv/データ接続.h"
 
 // One stream of statements to PostgreSQL, sent in pipeline mode and then answered. The writes
@@ -15,8 +14,9 @@
 // next sync.
 class 流し送り {
   public:
-    流し送り(PGconn* c, QHash<QByteArray, QByteArray>& 用意済み, int& 用意番号)
-        : c(c), 用意済み(用意済み), 用意番号(用意番号) {}
+    流し送り(const libpqの呼び口& pq, PGconn* c, QHash<QByteArray, QByteArray>& 用意済み,
+             int& 用意番号)
+        : pq(pq), c(c), 用意済み(用意済み), 用意番号(用意番号) {}
 
     // Statement 文 of the stream.
     bool 文を送る(qsizetype 文, const QString& 単文, const std::optional<引数付き文>& 引数);
@@ -52,6 +52,7 @@ class 流し送り {
         QByteArray 鍵;
         QByteArray 名;
     };
+    const libpqの呼び口& pq;
     PGconn* c;
     QHash<QByteArray, QByteArray>& 用意済み;
     int& 用意番号;

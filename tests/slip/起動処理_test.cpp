@@ -562,6 +562,17 @@ TEST_F(実行ファイル, 手で動いている横でも連携の起動は進�
                                    u"開始 "_qs, u"終了"_qs}));
 }
 
+// On SQLite alone the program maps no PostgreSQL client library, nor what that brings with it.
+TEST_F(実行ファイル, ファイルの木ではPostgreSQLの庫を読み込まない) {
+    ASSERT_NO_FATAL_FAILURE(常駐させる({}));
+    QFile 地図(u"/proc/"_qs + QString::number(常駐.back()->processId()) + u"/maps"_qs);
+    ASSERT_TRUE(地図.open(QIODevice::ReadOnly));
+    const QByteArray 中身 = 地図.readAll();
+    EXPECT_TRUE(中身.contains("libsqlite3")) << 中身.toStdString();
+    EXPECT_FALSE(中身.contains("libpq.so")) << 中身.toStdString();
+    EXPECT_FALSE(中身.contains("libkrb5")) << 中身.toStdString();
+}
+
 // A sibling passes the fixed positions as one argument; the blank date keeps the staff code at
 // position 28.
 TEST_F(実行ファイル, 一つの引数の中の空白は位置として残る) {
