@@ -74,12 +74,17 @@ bool データ接続::開く(const 接続先& 先) {
     if (変換先 == SQL方言::SQLite) {
         // Opening is lazy in SQLite: read the catalogue once so that a file that is no
         // database fails here, and let readers and one writer work side by side.
-        QSqlQuery q(db);
-        if (!q.exec(u"PRAGMA journal_mode=WAL"_qs) ||
-            (先.同期は区切りごと && !q.exec(u"PRAGMA synchronous=NORMAL"_qs)) ||
-            !q.exec(u"SELECT count(*) FROM sqlite_master"_qs)) {
-            エラー記録(q.lastError());
-            q = QSqlQuery();
+        bool 読めた = false;
+        {
+            QSqlQuery q(db);
+            読めた = q.exec(u"PRAGMA journal_mode=WAL"_qs) &&
+                     (!先.同期は区切りごと || q.exec(u"PRAGMA synchronous=NORMAL"_qs)) &&
+                     q.exec(u"SELECT count(*) FROM sqlite_master"_qs);
+            if (!読めた) エラー記録(q.lastError());
+        }
+        if (!読めた) {
+            // Nothing may hold the connection when it is removed.
+            db = QSqlDatabase();
             閉じる();
             return false;
         }

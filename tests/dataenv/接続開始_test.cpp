@@ -11,6 +11,12 @@
 
 namespace {
 
+// Qt's warnings while a test runs, for the ones that tell of a connection misused.
+QStringList 警告;
+void 警告を集める(QtMsgType, const QMessageLogContext&, const QString& 文) {
+    警告.append(文);
+}
+
 class 接続開始 : public ::testing::Test {
   protected:
     void SetUp() override { ASSERT_TRUE(木.作成済み) << 木.エラー.toStdString(); }
@@ -113,7 +119,12 @@ TEST_F(接続開始, 壊れた環境DBはSYB_OPEN_ERRORの箱を出して偽) {
     f.write(QByteArray(4096, 'x'));
     f.close();
     環境.接続().自身のフォルダ設定(木.プログラムフォルダ());
+    警告.clear();
+    const QtMessageHandler 元 = qInstallMessageHandler(警告を集める);
     EXPECT_FALSE(環境.接続().SYB_OPEN());
+    qInstallMessageHandler(元);
+    // The failed connection was removed with nothing left holding it.
+    EXPECT_TRUE(警告.filter(u"still in use"_qs).isEmpty()) << 警告.join(u'\n').toStdString();
     ASSERT_EQ(基盤.表示済み.size(), 1);
     EXPECT_TRUE(基盤.表示済み[0].本文.startsWith(u"SYB_OPEN ERROR"_qs));
     EXPECT_TRUE(基盤.表示済み[0].本文.endsWith(u"\nsysopen error"_qs));
