@@ -9,22 +9,27 @@ namespace {
 // A stream longer than this is cut, so that neither side's buffer fills while the other waits.
 constexpr qsizetype 一度に送る最大 = 200;
 
-// Qt 6 names the type by the structure behind libpq's typedef. Null, as when the library's
-// calls are not at hand, sends every statement on its own.
-PGconn* 生ハンドル(const QSqlDatabase& db) {
-    if (libpqの呼び口を得る() == nullptr) return nullptr;
-    return ドライバの手<PGconn>(db, {"PGconn*", "pg_conn*"});
+// The driver's connection with the library calls that go with it; both null when either is not
+// at hand, and every statement then goes on its own.
+struct 生の接続 {
+    const libpqの呼び口* pq = nullptr;
+    PGconn* c = nullptr;
+};
+生の接続 生ハンドル(const QSqlDatabase& db) {
+    const libpqの呼び口* pq = libpqの呼び口を得る();
+    if (pq == nullptr) return {};
+    // Qt 6 names the type by the structure behind libpq's typedef.
+    PGconn* c = ドライバの手<PGconn>(db, {"PGconn*", "pg_conn*"});
+    return c == nullptr ? 生の接続{} : 生の接続{pq, c};
 }
 
 }  // namespace
 
 QString データ接続::切れた接続の説明() const {
     if (変換先 != SQL方言::PostgreSQL || !QSqlDatabase::contains(接続名)) return {};
-    PGconn* c = 生ハンドル(生接続());
-    if (c == nullptr) return {};
-    const libpqの呼び口& pq = *libpqの呼び口を得る();
-    if (pq.PQstatus(c) == CONNECTION_OK) return {};
-    return QPSQLの説明(QString::fromUtf8(pq.PQerrorMessage(c)), {});
+    const auto [pq, c] = 生ハンドル(生接続());
+    if (c == nullptr || pq->PQstatus(c) == CONNECTION_OK) return {};
+    return QPSQLの説明(QString::fromUtf8(pq->PQerrorMessage(c)), {});
 }
 
 void データ接続::後で実行(const QString& 文, 結果受け 受け) {
@@ -64,8 +69,8 @@ void データ接続::待ちを流す(確定* 確定付き) {
         // A stream with a failure in it is undone whole; it goes again up to that statement.
         while (終わり > i) {
             // The batch's commit goes with the stream that ends its writes.
-            確定* 確定 = 終わり == 数 && !列[終わり - 1].単独() ? 確定付き : nullptr;
-            const qsizetype 失敗 = 流して送る(列, i, 終わり, 結果[終わり - 1], 確定);
+            確定* 確定先 = 終わり == 数 && !列[終わり - 1].単独() ? 確定付き : nullptr;
+            const qsizetype 失敗 = 流して送る(列, i, 終わり, 結果[終わり - 1], 確定先);
             if (失敗 == 終わり) break;
             終わり = 失敗;
         }
@@ -93,11 +98,12 @@ void データ接続::待ちを流す(確定* 確定付き) {
 // bound to fail goes behind the others in a part of its own, and its answer comes back in 答え.
 qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qsizetype 始め, qsizetype 終わり,
                                  std::pair<bool, 接続エラー>& 答え, 確定* 確定付き) {
-    PGconn* c = 生ハンドル(生接続());
-    if (c == nullptr) return 始め;
-    const libpqの呼び口& pq = *libpqの呼び口を得る();
-    if (pq.PQtransactionStatus(c) != PQTRANS_INTRANS || !pq.PQenterPipelineMode(c)) return 始め;
-    流し送り 流れ(pq, c, 用意済み, 用意番号);
+    const auto [pq, c] = 生ハンドル(生接続());
+    if (c == nullptr || pq->PQtransactionStatus(c) != PQTRANS_INTRANS ||
+        !pq->PQenterPipelineMode(c)) {
+        return 始め;
+    }
+    流し送り 流れ(*pq, c, 用意済み, 用意番号);
     const bool 単独あり = 列[終わり - 1].単独();
     const qsizetype 並ぶ終わり = 単独あり ? 終わり - 1 : 終わり;
     bool 送った = true;
@@ -109,7 +115,7 @@ qsizetype データ接続::流して送る(const std::vector<待ち文>& 列, qs
     }
     if (送った && 単独あり) 送った = 流れ.単独で送る(並ぶ終わり, 列[並ぶ終わり].単文, 終わり);
     const 流し送り::答え a = 送った ? 流れ.受ける(終わり) : 流し送り::答え{};
-    pq.PQexitPipelineMode(c);
+    pq->PQexitPipelineMode(c);
     if (a.揃った && !a.失敗あり) {
         if (単独あり) 答え = {!a.単独の失敗, a.単独の失敗.value_or(接続エラー{})};
         if (確定付き) *確定付き = {a.確定した || a.確定の失敗, a.確定の失敗};
